@@ -1,0 +1,158 @@
+#include "gl/FBOManager.h"
+
+#include "gl/RenderTarget.h"
+#include "gl/Texture.h"
+#include "platform/Log.h"
+
+namespace {
+
+constexpr char tag[] = "FBOManager";
+constexpr int windowSlot = 0;
+constexpr int firstBufferSlot = 1;
+
+const char* StatusMessage(GLenum status) {
+    switch (status) {
+    case GL_FRAMEBUFFER_COMPLETE:
+        return "Framebuffer complete.\n";
+    case GL_FRAMEBUFFER_INCOMPLETE_ATTACHMENT:
+        return "Unable to set up render Target: RFRAMEBUFFER_INCOMPLETE_ATTACHMENT\n";
+    case GL_FRAMEBUFFER_INCOMPLETE_MISSING_ATTACHMENT:
+        return "Unable to set up render Target: GL_FRAMEBUFFER_INCOMPLETE_MISSING_ATTACHMENT\n";
+    case GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS:
+        return "Unable to set up render Target: GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS\n";
+    case GL_FRAMEBUFFER_UNSUPPORTED:
+        return "Unable to set up render Target: GL_FRAMEBUFFER_UNSUPPORTED\n";
+    default:
+        return "Framebuffer incomplete: Unknown error.\n";
+    }
+}
+
+GLuint CreateTexture(int width, int height, int format) {
+    const GLuint texture = GenerateTexture(GL_TEXTURE0);
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glTexImage2D(GL_TEXTURE_2D, 0, format, width, height, 0, static_cast<GLenum>(format),
+                 GL_UNSIGNED_BYTE, nullptr);
+    FilterLinear();
+    ClampToEdge();
+    return texture;
+}
+
+GLuint CreateFramebuffer(GLuint texture) {
+    GLuint framebuffer = 0;
+    glGenFramebuffers(1, &framebuffer);
+    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
+    glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, texture, 0);
+    __android_log_print(LogError, tag, "%s",
+                        StatusMessage(glCheckFramebufferStatus(GL_FRAMEBUFFER)));
+    return framebuffer;
+}
+
+} // namespace
+
+FBOManager::FBOManager(int width, int height) {
+    for (tagFrameBuffObject& slot : slots) {
+        InitFBO(&slot);
+    }
+    slots[windowSlot] = {ZO_WINDOW_HANDLE, 0, 0, width, height};
+}
+
+FBOManager::~FBOManager() {
+    for (int i = firstBufferSlot; i < slotCount; ++i) {
+        DeleteObjects(slots[i]);
+    }
+}
+
+int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int format,
+                            bool reuseHandle) {
+    int free = firstBufferSlot;
+    while (free < slotCount && slots[free].handle != ZO_NO_HANDLE) {
+        ++free;
+    }
+    if (free == slotCount) {
+        __android_log_print(LogError, tag, "num of the FBO more than max num %d \n", slotCount);
+        return ZO_NO_FREE_FBO;
+    }
+    tagFrameBuffObject& slot = slots[free];
+    slot.texture = CreateTexture(width, height, format);
+    slot.framebuffer = CreateFramebuffer(slot.texture);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    UnbindTarget();
+
+    if (!reuseHandle) {
+        *handle = NewHandle(free);
+    }
+    slot.handle = *handle;
+    slot.width = width;
+    slot.height = height;
+    ClearFBOTex(&slot, &transparentBlack);
+    return ZO_SUCCESS;
+}
+
+// The number of the slot, unless a buffer that was created again in another slot holds it. There
+// are as many numbers as slots, so one is always left.
+unsigned int FBOManager::NewHandle(int slot) const {
+    unsigned int handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(slot);
+    for (int i = firstBufferSlot; FindSlot(handle, firstBufferSlot) != nullptr; ++i) {
+        handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(i);
+    }
+    return handle;
+}
+
+bool FBOManager::GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const {
+    const tagFrameBuffObject* slot = FindSlot(handle, windowSlot);
+    if (slot == nullptr) {
+        return false;
+    }
+    NativeFBOOut(slot, out);
+    return true;
+}
+
+void FBOManager::GLDestoryFBO(unsigned int handle) {
+    const tagFrameBuffObject* found = FindSlot(handle, firstBufferSlot);
+    if (found == nullptr) {
+        __android_log_print(LogError, tag, "FBO is not exist fboHandleIndex %u\n", handle);
+        return;
+    }
+    DeleteObjects(*found);
+    InitFBO(&slots[found - slots]);
+}
+
+void FBOManager::ClearFBOTex(const tagFrameBuffObject* fbo, const tagColorRGBA* color) const {
+    if (fbo == nullptr || color == nullptr) {
+        __android_log_print(LogError, tag, "FBO or color is nullptr\n");
+        return;
+    }
+    BindTarget(fbo->framebuffer, fbo->width, fbo->height);
+    ClearTarget(*color, GL_COLOR_BUFFER_BIT);
+    UnbindTarget();
+}
+
+void FBOManager::NativeFBOOut(const tagFrameBuffObject* in, tagFrameBuffObject* out) const {
+    *out = *in;
+}
+
+void FBOManager::InitFBO(tagFrameBuffObject* fbo) const {
+    *fbo = {ZO_NO_HANDLE, 0, 0, 0, 0};
+}
+
+// The mark of a free slot is a number that a client can pass, too: it must find nothing.
+const tagFrameBuffObject* FBOManager::FindSlot(unsigned int handle, int firstSlot) const {
+    if (handle == ZO_NO_HANDLE) {
+        return nullptr;
+    }
+    for (int i = firstSlot; i < slotCount; ++i) {
+        if (slots[i].handle == handle) {
+            return &slots[i];
+        }
+    }
+    return nullptr;
+}
+
+void FBOManager::DeleteObjects(const tagFrameBuffObject& slot) const {
+    if (slot.texture != 0) {
+        glDeleteTextures(1, &slot.texture);
+    }
+    if (slot.framebuffer != 0) {
+        glDeleteFramebuffers(1, &slot.framebuffer);
+    }
+}

@@ -1,0 +1,67 @@
+/// @file
+/// The pool of render targets: the window's framebuffer and up to 15 off-screen buffers.
+#ifndef ZOGLES_GL_FBOMANAGER_H
+#define ZOGLES_GL_FBOMANAGER_H
+
+#include "zogles/ZoGLDrawSurface.h"
+
+#include <GLES2/gl2.h>
+
+/// One render target. Copied by value; the GL objects stay the pool's.
+struct tagFrameBuffObject {
+    unsigned int handle; ///< ZO_NO_HANDLE marks a free slot
+    GLuint texture;      ///< the pixels; 0 for the window
+    GLuint framebuffer;  ///< 0 for the window
+    int width;           ///< pixels
+    int height;          ///< pixels
+};
+
+/// A fixed table of render targets, looked up by handle. Allocates nothing.
+///
+/// Slot 0 is the window under ZO_WINDOW_HANDLE; slots 1 to 15 hold the off-screen buffers, each a
+/// texture attached to a framebuffer object, both owned by the pool. A buffer that is created again
+/// keeps the handle that it had, whatever slot it gets now, so a handle is never decoded; new
+/// handles differ from all that are in use.
+class ZOGLES_API FBOManager {
+public:
+    /// @param width,height the window's size in pixels. Makes no GL call.
+    FBOManager(int width, int height);
+    ~FBOManager();
+
+    FBOManager(const FBOManager&) = delete;
+    FBOManager& operator=(const FBOManager&) = delete;
+
+    /// Creates a buffer in the lowest free slot, transparent black. The driver's verdict on it is
+    /// logged and changes nothing.
+    /// @param handle receives the new handle; with `reuseHandle`, gives the one to use
+    /// @param format GL pixel format of the texture
+    /// @return ZO_SUCCESS, or ZO_NO_FREE_FBO, with `*handle` untouched
+    int GLCreateFBO(unsigned int* handle, int width, int height, int format, bool reuseHandle);
+
+    /// Copies the target with that handle, the window included.
+    /// @return whether there is one; `out` is untouched if not
+    bool GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const;
+
+    /// Destroys an off-screen buffer; any other handle is logged.
+    void GLDestoryFBO(unsigned int handle);
+
+    /// Fills a whole target with a colour. Null pointers are logged.
+    void ClearFBOTex(const tagFrameBuffObject* fbo, const tagColorRGBA* color) const;
+
+    /// Copies a target's record.
+    void NativeFBOOut(const tagFrameBuffObject* in, tagFrameBuffObject* out) const;
+
+    /// Makes a record one of a free slot.
+    void InitFBO(tagFrameBuffObject* fbo) const;
+
+private:
+    static constexpr int slotCount = 16;
+
+    const tagFrameBuffObject* FindSlot(unsigned int handle, int firstSlot) const;
+    unsigned int NewHandle(int slot) const;
+    void DeleteObjects(const tagFrameBuffObject& slot) const;
+
+    tagFrameBuffObject slots[slotCount];
+};
+
+#endif

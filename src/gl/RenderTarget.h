@@ -1,0 +1,36 @@
+/// @file
+/// Directing GL's drawing to a target.
+#ifndef ZOGLES_GL_RENDERTARGET_H
+#define ZOGLES_GL_RENDERTARGET_H
+
+#include "surface/Records.h"
+
+#include <GLES2/gl2.h>
+
+/// Directs drawing to a framebuffer (0 is the window) and maps vertex space to all of it.
+/// @param width,height pixels
+inline void BindTarget(GLuint framebuffer, int width, int height) {
+    glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
+    glViewport(0, 0, width, height);
+}
+
+/// Every operation ends with the window's framebuffer bound.
+inline void UnbindTarget() {
+    glBindFramebuffer(GL_FRAMEBUFFER, 0);
+}
+
+/// Fills the bound target with a colour, alpha included.
+inline void ClearTarget(const tagColorRGBA& color, GLbitfield buffers) {
+    glClearColor(color.r, color.g, color.b, color.a);
+    glClear(buffers);
+}
+
+/// Blending as all operations that blend do it: one pair of factors for colour and alpha alike.
+inline void EnableBlending() {
+    glEnable(GL_BLEND);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+}
+
+constexpr tagColorRGBA transparentBlack = {0.0f, 0.0f, 0.0f, 0.0f};
+
+#endif

@@ -1,0 +1,46 @@
+/// @file
+/// Client bitmaps on the window.
+#ifndef ZOGLES_OSD_OSDBITMAP_H
+#define ZOGLES_OSD_OSDBITMAP_H
+
+#include "gl/FBOManager.h"
+#include "gl/ShaderProgram.h"
+#include "surface/Records.h"
+
+/// Clears the window and blends client pixels onto it, by way of a texture that lives for one draw.
+class ZOGLES_API OSDBitmap {
+public:
+    OSDBitmap();
+    ~OSDBitmap();
+
+    OSDBitmap(const OSDBitmap&) = delete;
+    OSDBitmap& operator=(const OSDBitmap&) = delete;
+
+    /// Builds the program and the vertex buffer.
+    /// @return ZO_SUCCESS or ZO_PROGRAM_FAILED
+    int Init();
+
+    /// Uploads the pixels into a new texture; the first row lies at t = 0.
+    void CreateTexture(const tagBitmapInfo* info);
+
+    /// Deletes the texture, if there is one.
+    void DeleteTexture();
+
+    /// Draws the whole bound texture into the bound target, its first row at the top.
+    /// @param rect vertex space
+    void RenderBimap(const tagRectInfo* rect) const;
+
+    /// Shows the bitmap on the window.
+    /// @param width,height the window's size in pixels
+    void DrawBitmap(const tagBitmapInfo* info, int width, int height);
+
+private:
+    std::unique_ptr<ShaderProgram> shaderProgram;
+    GLuint texture;
+    GLuint program;
+    GLuint vertexBuffer;
+    GLint texLocation;
+    GLint coordLocation;
+};
+
+#endif

@@ -1,0 +1,84 @@
+#include "osd/OSDBlit.h"
+
+#include "gl/RenderTarget.h"
+#include "osd/RegionCopy.h"
+#include "osd/TexturedQuad.h"
+#include "surface/Components.h"
+
+namespace {
+
+constexpr char tag[] = "OSDBlit";
+
+bool IsWithinOneBuffer(const tagBlitInfo& info) {
+    return info.src.texture != 0 && info.src.texture == info.dst.texture;
+}
+
+} // namespace
+
+OSDBlit::OSDBlit() : program(0), vertexBuffer(0), texLocation(0), coordLocation(0) {}
+
+OSDBlit::~OSDBlit() {
+    ReleaseObjects(shaderProgram, program, vertexBuffer);
+}
+
+int OSDBlit::Init() {
+    return InitTexturedQuad(tag, shaderProgram, program, vertexBuffer, coordLocation, texLocation);
+}
+
+void OSDBlit::Blit(const tagBlitInfo* info) const {
+    RegionCopy source = {info->src.texture, info->srcRect};
+    const bool isCopied = IsWithinOneBuffer(*info);
+    if (isCopied && !CopyRegion(info->src, info->srcRect, &source)) {
+        __android_log_print(LogError, tag, "Create texture fail\n");
+        return;
+    }
+    BindTarget(info->dst.framebuffer, info->dst.width, info->dst.height);
+    glUseProgram(program);
+    BindSource(source.texture, texLocation);
+    BlitByDrawing(&source.texRect, &info->dstRect);
+    glBindTexture(GL_TEXTURE_2D, 0);
+    UnbindTarget();
+    if (isCopied) {
+        glDeleteTextures(1, &source.texture);
+    }
+}
+
+void OSDBlit::BlitByDrawing(const tagRectInfo* texRect, const tagRectInfo* posRect) const {
+    Vertex quad[4];
+    PlaceRegion(*texRect, *posRect, quad);
+    BindVertices(coordLocation, vertexBuffer);
+    DrawQuad(quad);
+    UnbindVertices(coordLocation);
+}
+
+int ZoGLDrawSurface::OSDBlitInit(unsigned int flags) {
+    if ((flags & ZO_COMPONENT_BLIT) == 0) {
+        return ZO_SUCCESS;
+    }
+    return InstallComponent(osdBlit, "OSD blit init fail %d\n");
+}
+
+int ZoGLDrawSurface::ZoBlit(const tagZoBlitInfo* info) noexcept {
+    if (info == nullptr) {
+        return RefuseNull();
+    }
+    tagBlitInfo blit;
+    int code = FindTarget(info->srcHandle, &blit.src);
+    if (code == ZO_SUCCESS) {
+        code = FindTarget(info->dstHandle, &blit.dst);
+    }
+    if (code == ZO_SUCCESS && !osdBlit) {
+        code = OSDBlitInit(ZO_COMPONENT_BLIT);
+    }
+    if (code != ZO_SUCCESS) {
+        return code;
+    }
+    blit.srcRect = {};
+    blit.dstRect = {};
+    ScreenCoordToFboCoord(&info->srcRect, &blit.srcRect, static_cast<unsigned int>(blit.src.width),
+                          static_cast<unsigned int>(blit.src.height));
+    ScreenCoordToVCoord(&info->dstRect, &blit.dstRect, static_cast<unsigned int>(blit.dst.width),
+                        static_cast<unsigned int>(blit.dst.height));
+    osdBlit->Blit(&blit);
+    return ZO_SUCCESS;
+}

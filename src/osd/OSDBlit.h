@@ -1,0 +1,48 @@
+/// @file
+/// Copies between buffers.
+#ifndef ZOGLES_OSD_OSDBLIT_H
+#define ZOGLES_OSD_OSDBLIT_H
+
+#include "gl/FBOManager.h"
+#include "gl/ShaderProgram.h"
+#include "surface/Records.h"
+
+/// A copy request.
+struct tagBlitInfo {
+    tagFrameBuffObject src;
+    tagFrameBuffObject dst;
+    tagRectInfo srcRect; ///< region to read, in the source's texture space
+    tagRectInfo dstRect; ///< region to write, in the destination's vertex space
+};
+
+/// Draws a region of one buffer into another, or into itself, without blending.
+class ZOGLES_API OSDBlit {
+public:
+    OSDBlit();
+    ~OSDBlit();
+
+    OSDBlit(const OSDBlit&) = delete;
+    OSDBlit& operator=(const OSDBlit&) = delete;
+
+    /// Builds the program and the vertex buffer.
+    /// @return ZO_SUCCESS or ZO_PROGRAM_FAILED
+    int Init();
+
+    /// Copies. Within one buffer it copies by way of a temporary texture, since GL leaves undefined
+    /// what comes of sampling the texture that is drawn into.
+    void Blit(const tagBlitInfo* info) const;
+
+    /// Draws the quad from the bound texture into the bound target.
+    /// @param texRect texture space
+    /// @param posRect vertex space
+    void BlitByDrawing(const tagRectInfo* texRect, const tagRectInfo* posRect) const;
+
+private:
+    std::unique_ptr<ShaderProgram> shaderProgram;
+    GLuint program;
+    GLuint vertexBuffer;
+    GLint texLocation;
+    GLint coordLocation;
+};
+
+#endif

@@ -1,0 +1,67 @@
+#include "platform/Log.h"
+
+#if !defined(__ANDROID__)
+
+#include "platform/LogFilter.h"
+
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <unistd.h>
+
+namespace {
+
+constexpr size_t maxMessage = 4000;
+constexpr size_t maxTag = 64;
+
+char PriorityLetter(int priority) {
+    constexpr char letters[] = "VDIWEF";
+    constexpr int last = LogVerbose + static_cast<int>(sizeof(letters)) - 2;
+    return priority < LogVerbose || priority > last ? '?' : letters[priority - LogVerbose];
+}
+
+// One write for a whole line, so that lines of several processes do not mix.
+int WriteLine(const char* prefix, size_t prefixLength, const char* text, size_t length) {
+    char line[maxTag + 8 + maxMessage + 1];
+    memcpy(line, prefix, prefixLength);
+    memcpy(line + prefixLength, text, length);
+    line[prefixLength + length] = '\n';
+    return static_cast<int>(write(STDERR_FILENO, line, prefixLength + length + 1));
+}
+
+int WriteMessage(int priority, const char* tag, const char* text) {
+    char prefix[maxTag + 8];
+    const int prefixLength = snprintf(prefix, sizeof(prefix), "%c/%.*s: ", PriorityLetter(priority),
+                                      static_cast<int>(maxTag), tag);
+    int total = 0;
+    do {
+        const size_t length = strcspn(text, "\n");
+        const int written = WriteLine(prefix, static_cast<size_t>(prefixLength), text, length);
+        if (written < 0) {
+            return written;
+        }
+        total += written;
+        text += length;
+        text += *text == '\n' ? 1 : 0;
+    } while (*text != '\0');
+    return total;
+}
+
+} // namespace
+
+extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, ...) {
+    static const LogFilter filter(getenv("ANDROID_LOG_TAGS"));
+    const char* shownTag = tag == nullptr ? "" : tag;
+    if (!filter.Shows(prio, shownTag)) {
+        return 0;
+    }
+    char text[maxMessage];
+    va_list args;
+    va_start(args, fmt);
+    const int length = vsnprintf(text, sizeof(text), fmt, args);
+    va_end(args);
+    return length < 0 ? length : WriteMessage(prio, shownTag, text);
+}
+
+#endif

@@ -1,0 +1,27 @@
+/// @file
+/// The platform log, with the platform's own interface. Where the platform has one, it is used.
+#ifndef ZOGLES_PLATFORM_LOG_H
+#define ZOGLES_PLATFORM_LOG_H
+
+#if defined(__ANDROID__)
+#include <android/log.h>
+#else
+
+/// Writes a message to stderr as "E/Tag: message", each line of it by one write.
+///
+/// The environment variable ANDROID_LOG_TAGS, read at the first call, says what is shown: entries
+/// "tag:priority" set apart by blanks or commas, where the priority is the least one shown (one of
+/// V D I W E F, or S for none) and the tag * stands for every tag not named. Of two entries for one
+/// tag the later holds. The default is "*:V". A message that is not shown is not formatted.
+///
+/// Messages longer than 4,000 bytes are cut.
+/// @return the number of bytes written, 0 for a message not shown, or a negative number
+extern "C" __attribute__((visibility("default"), format(printf, 3, 4))) int
+__android_log_print(int prio, const char* tag, const char* fmt, ...);
+
+#endif
+
+/// The priorities that the library uses, with the platform's numbers.
+enum LogPriority : int { LogVerbose = 2, LogWarning = 5, LogError = 6 };
+
+#endif

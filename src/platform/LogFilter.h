@@ -1,0 +1,37 @@
+/// @file
+/// Which messages the log shows.
+#ifndef ZOGLES_PLATFORM_LOGFILTER_H
+#define ZOGLES_PLATFORM_LOGFILTER_H
+
+#include <cstddef>
+
+/// A filter in the platform's own syntax (see Log.h), parsed once into a fixed table: asking it
+/// allocates nothing and makes no system call.
+class LogFilter {
+public:
+    /// @param expression the filter's text, copied; null and "" show everything. Entries past the
+    ///     table's 32, and tags past its 1,024 bytes, are left out.
+    explicit LogFilter(const char* expression);
+
+    /// Whether a message of that priority under that tag is shown.
+    bool Shows(int priority, const char* tag) const;
+
+private:
+    struct Rule {
+        const char* tag;
+        int least;
+    };
+
+    void AddEntry(const char* entry, size_t length);
+
+    static constexpr size_t maxRules = 32;
+    static constexpr size_t maxText = 1024;
+
+    int leastOfOthers;
+    size_t ruleCount;
+    size_t textLength;
+    Rule rules[maxRules];
+    char text[maxText];
+};
+
+#endif

@@ -1,0 +1,140 @@
+// The off-screen buffers' handles, and the table that brings the buffers back after the loss of the
+// GL context.
+
+#include "gl/FBOManager.h"
+#include "surface/Results.h"
+
+#include <GLES2/gl2.h>
+#include <new>
+
+// Puts a new pool in the place of the one there is.
+int ZoGLDrawSurface::CreatePool() {
+    FBOManager* pool = new (std::nothrow)
+        FBOManager(static_cast<int>(windowWidth), static_cast<int>(windowHeight));
+    if (pool == nullptr) {
+        return RefuseMemory();
+    }
+    fboManager.reset(pool);
+    return ZO_SUCCESS;
+}
+
+int ZoGLDrawSurface::EnsurePool() {
+    return fboManager ? ZO_SUCCESS : CreatePool();
+}
+
+// Copies the target that an operation names, or logs why there is none.
+int ZoGLDrawSurface::FindTarget(unsigned int handle, tagFrameBuffObject* target) {
+    int code = EnsurePool();
+    if (code == ZO_SUCCESS) {
+        code = ZeroRecord(target);
+    }
+    if (code == ZO_SUCCESS && !fboManager->GetFBOInst(handle, target)) {
+        __android_log_print(LogError, surfaceTag, "There is not the fbo\n");
+        code = ZO_INVALID_PARAM;
+    }
+    return code;
+}
+
+int ZoGLDrawSurface::ZoCreateGLFBO(unsigned int* handle, unsigned int width, unsigned int height,
+                                   int format) noexcept {
+    if (handle == nullptr) {
+        __android_log_print(LogError, surfaceTag, "param is invalid\n");
+        return ZO_INVALID_PARAM;
+    }
+    if (!surfaceCreated) {
+        __android_log_print(LogError, surfaceTag, "no window is bound, FBO is not created\n");
+        return ZO_FAILURE;
+    }
+    int code = EnsurePool();
+    if (code != ZO_SUCCESS) {
+        return code;
+    }
+    const int glFormat = static_cast<int>(ConvertFormatToGLES(format));
+    code = fboManager->GLCreateFBO(handle, static_cast<int>(width), static_cast<int>(height),
+                                   glFormat, false);
+    if (code != ZO_SUCCESS) {
+        __android_log_print(LogError, surfaceTag, "Create FBO fail %d\n", code);
+        return ToError(code);
+    }
+    // A pool that a drawing operation made while no window was bound holds none of the recorded
+    // buffers, so it can hand out one of their numbers, which means the new buffer from now on.
+    if (TagFboInfo* lost = FindFboInfo(*handle)) {
+        InitFBO(lost);
+    }
+    SaveFboInfo(*handle, static_cast<int>(width), static_cast<int>(height), glFormat);
+    return ZO_SUCCESS;
+}
+
+int ZoGLDrawSurface::ZoDestoryGLFBO(unsigned int handle) noexcept {
+    if (!fboManager) {
+        __android_log_print(LogError, surfaceTag, "FBO manager is nullptr\n");
+        return ZO_NO_FBO_MANAGER;
+    }
+    fboManager->GLDestoryFBO(handle);
+    RemoveFBO(handle);
+    return ZO_SUCCESS;
+}
+
+int ZoGLDrawSurface::ResetFboSource() {
+    if (!surfaceCreated) {
+        __android_log_print(LogError, surfaceTag, "no window is bound, FBOs are not restored\n");
+        return ZO_FAILURE;
+    }
+    int code = CreatePool();
+    if (code != ZO_SUCCESS) {
+        return code;
+    }
+    for (TagFboInfo& entry : fboInfo) {
+        if (entry.handle == ZO_NO_HANDLE) {
+            continue;
+        }
+        code =
+            fboManager->GLCreateFBO(&entry.handle, entry.width, entry.height, entry.format, true);
+        if (code != ZO_SUCCESS) {
+            __android_log_print(LogError, surfaceTag, "Reset FBO source fail %d, fbo %u\n", code,
+                                entry.handle);
+            return ToError(code);
+        }
+    }
+    return ZO_SUCCESS;
+}
+
+void ZoGLDrawSurface::FBOManagerInit(unsigned int flags) {
+    if ((flags & ZO_COMPONENT_FBO) != 0) {
+        CreatePool();
+    }
+}
+
+void ZoGLDrawSurface::SaveFboInfo(unsigned int handle, int width, int height, int format) {
+    TagFboInfo* entry = FindFboInfo(ZO_NO_HANDLE);
+    if (entry == nullptr) {
+        __android_log_print(LogError, surfaceTag, "num of the FBO more than max num %d \n",
+                            fboInfoCount);
+        return;
+    }
+    *entry = {handle, width, height, format};
+}
+
+// An empty entry carries ZO_NO_HANDLE, which a client can pass, too: it must not be found here.
+void ZoGLDrawSurface::RemoveFBO(unsigned int handle) {
+    TagFboInfo* entry = handle == ZO_NO_HANDLE ? nullptr : FindFboInfo(handle);
+    if (entry == nullptr) {
+        __android_log_print(LogError, surfaceTag, "FBO is not exist fboHandleIndex %u\n", handle);
+        return;
+    }
+    InitFBO(entry);
+}
+
+// The first entry with that handle; for ZO_NO_HANDLE, the first empty one.
+TagFboInfo* ZoGLDrawSurface::FindFboInfo(unsigned int handle) {
+    for (TagFboInfo& entry : fboInfo) {
+        if (entry.handle == handle) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+void ZoGLDrawSurface::InitFBO(TagFboInfo* entry) const {
+    *entry = {ZO_NO_HANDLE, 0, 0, GL_RGBA};
+}

@@ -1,0 +1,69 @@
+/// @file
+/// The records that the renderers work on: everything in GL's units.
+#ifndef ZOGLES_SURFACE_RECORDS_H
+#define ZOGLES_SURFACE_RECORDS_H
+
+#include "platform/Log.h"
+#include "platform/MemsetS.h"
+#include "zogles/ZoGLDrawSurface.h"
+
+/// A rectangle in one of two spaces, fixed by who reads it.
+///
+/// Vertex space: the target's normalised device coordinates, -1 to 1, y upwards.
+/// Texture space: 0 to 1, origin at the bottom-left corner.
+///
+/// In both, (x, y) is the top-left corner, the extents are positive, and the bottom edge lies at
+/// y - height.
+struct tagRectInfo {
+    float x;
+    float y;
+    float width;
+    float height;
+};
+
+/// A colour as GL takes it, 0.0 to 1.0 a channel, not premultiplied.
+struct tagColorRGBA {
+    float r;
+    float g;
+    float b;
+    float a;
+};
+
+/// A text request; the text stays the client's.
+struct tagTextInfo {
+    const char16_t* text;
+    unsigned int length;
+    tagColorRGBA color;
+    tagColorRGBA reservedColor;
+    unsigned char reservedByte;
+    unsigned int fontSize;
+    unsigned char bold;
+    unsigned char reservedStyle;
+    unsigned char italic;
+};
+
+/// A bitmap request; the pixels stay the client's.
+struct tagBitmapInfo {
+    const unsigned char* data;
+    tagRectInfo rect; ///< destination in the window's vertex space
+    int width;        ///< pixels
+    int height;       ///< pixels
+    unsigned int format;
+};
+
+/// The tag of every line that the surface's own operations log.
+constexpr char surfaceTag[] = "ZoGLDrawSurface";
+
+/// Zeroes a record, or logs why not.
+/// @return ZO_SUCCESS or ZO_FAILURE
+template <typename Record>
+int ZeroRecord(Record* record) {
+    const int rc = memset_s(record, sizeof(Record), 0, sizeof(Record));
+    if (rc != 0) {
+        __android_log_print(LogError, surfaceTag, "memset_s_func failed, rc = %d", rc);
+        return ZO_FAILURE;
+    }
+    return ZO_SUCCESS;
+}
+
+#endif

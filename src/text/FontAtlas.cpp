@@ -1,0 +1,110 @@
+#include "text/FontAtlas.h"
+
+#include "surface/Results.h"
+#include "text/GlyphTexture.h"
+
+#include <new>
+
+namespace {
+
+constexpr char tag[] = "FontAtlas";
+
+// Calls `visit` with every character that the face maps, rendered, in ascending order.
+template <typename Visit>
+void WalkFace(FT_Face face, Visit visit) {
+    FT_UInt index = 0;
+    for (FT_ULong code = FT_Get_First_Char(face, &index); index != 0;
+         code = FT_Get_Next_Char(face, code, &index)) {
+        if (FT_Load_Char(face, code, FT_LOAD_RENDER) != 0) {
+            __android_log_print(LogError, tag, "Loading character %lu failed!\n", code);
+            continue;
+        }
+        visit(face->glyph, code);
+    }
+}
+
+} // namespace
+
+FontAtlas::FontAtlas() : texture(0), width(0), height(0) {}
+
+FontAtlas::~FontAtlas() {
+    DeleteTexture();
+}
+
+int FontAtlas::LoadFontByPath(const char* path, unsigned int size) {
+    DeleteTexture();
+    width = 0;
+    height = 0;
+    FT_Library library = nullptr;
+    FT_Face face = nullptr;
+    int code = OpenFace(tag, path, library, face);
+    if (code == ZO_SUCCESS) {
+        code = LoadFont(face, size);
+    }
+    CloseFace(library, face);
+    return code;
+}
+
+int FontAtlas::LoadFont(FT_Face face, unsigned int size) {
+    DeleteTexture();
+    SetPixelSize(tag, face, size);
+    int code = CalculateTexSize(face);
+    if (code == ZO_SUCCESS) {
+        code = CreateAtlasTex();
+    }
+    if (code != ZO_SUCCESS) {
+        return code;
+    }
+    try {
+        FontToTexture(face);
+    } catch (const std::bad_alloc&) {
+        code = RefuseMemory(tag);
+        DeleteTexture();
+    }
+    glBindTexture(GL_TEXTURE_2D, 0);
+    return code;
+}
+
+int FontAtlas::CalculateTexSize(FT_Face face) {
+    return SizeAtlas(
+        tag, [face](auto visit) { WalkFace(face, visit); }, width, height);
+}
+
+int FontAtlas::CreateAtlasTex() {
+    texture = CreateGlyphTexture(tag, standardAtlasUnit, width, height);
+    return texture == 0 ? ZO_FAILURE : ZO_SUCCESS;
+}
+
+void FontAtlas::FontToTexture(FT_Face face) {
+    FillAtlas(
+        tag, [face](auto visit) { WalkFace(face, visit); }, width, height,
+        [this](FT_GlyphSlot glyph, int x, int y, FT_ULong code) {
+            FontCharInfoToMap(glyph, x, y, code);
+        });
+    __android_log_print(LogWarning, tag, "Generated a %d x %d (%d kb) texture atlas\n", width,
+                        height, (width * height) >> 10);
+}
+
+void FontAtlas::FontCharInfoToMap(FT_GlyphSlot glyph, int x, int y, unsigned long charCode) {
+    glyphs[charCode] = DescribeGlyph(glyph, x, y, width, height);
+}
+
+void FontAtlas::DeleteTexture() {
+    DropAtlas(texture, width, height, glyphs);
+}
+
+unsigned int FontAtlas::GetFontTexture() const {
+    return texture;
+}
+
+const GlyphMap& FontAtlas::GetGlyphs() const {
+    return glyphs;
+}
+
+unsigned int FontAtlas::GetFontTextureWidth() const {
+    return width;
+}
+
+unsigned int FontAtlas::GetFontTextureHeight() const {
+    return height;
+}

@@ -1,0 +1,68 @@
+/// @file
+/// The standard atlas: a whole font at one size.
+#ifndef ZOGLES_TEXT_FONTATLAS_H
+#define ZOGLES_TEXT_FONTATLAS_H
+
+#include "text/Glyph.h"
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+/// One texture with every character that a font maps, all at one pixel size, and what is known of
+/// each. Built once a font is loaded, then only read; keeps nothing of FreeType.
+///
+/// Every load starts by dropping the old atlas, so a failed one leaves it empty. Loading needs the
+/// surface's GL context; it leaves texture unit 1 active with no texture bound and an unpack
+/// alignment of 1.
+class ZOGLES_API FontAtlas {
+public:
+    FontAtlas();
+    ~FontAtlas();
+
+    FontAtlas(const FontAtlas&) = delete;
+    FontAtlas& operator=(const FontAtlas&) = delete;
+
+    /// Builds the atlas from a font file.
+    /// @param size glyph height in pixels; 0 means 40
+    /// @return ZO_SUCCESS, a font code (30 to 32), or ZO_FAILURE
+    int LoadFontByPath(const char* path, unsigned int size);
+
+    /// Builds the atlas from an open face.
+    /// @return ZO_SUCCESS, ZO_FONT_ATLAS_EMPTY or ZO_FAILURE
+    int LoadFont(FT_Face face, unsigned int size);
+
+    /// Finds the texture's size for the face's characters at its present size.
+    /// @return ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
+    int CalculateTexSize(FT_Face face);
+
+    /// Creates the texture and leaves it bound on unit 1.
+    /// @return ZO_SUCCESS or ZO_FAILURE
+    int CreateAtlasTex();
+
+    /// Renders every character into the bound texture and records it.
+    void FontToTexture(FT_Face face);
+
+    /// Records one glyph whose cell starts at (x, y) of the texture.
+    void FontCharInfoToMap(FT_GlyphSlot glyph, int x, int y, unsigned long charCode);
+
+    /// Drops texture and records, if there is a texture.
+    void DeleteTexture();
+
+    /// The texture's name, 0 for none; it stays the atlas's.
+    unsigned int GetFontTexture() const;
+
+    /// The records, by character code.
+    const GlyphMap& GetGlyphs() const;
+
+    /// Texture size in pixels.
+    unsigned int GetFontTextureWidth() const;
+    unsigned int GetFontTextureHeight() const;
+
+private:
+    unsigned int texture;
+    unsigned int width;
+    unsigned int height;
+    GlyphMap glyphs;
+};
+
+#endif

@@ -1,0 +1,115 @@
+#include "text/FontStyleAtlas.h"
+
+#include "surface/Results.h"
+#include "text/GlyphTexture.h"
+
+#include <new>
+
+namespace {
+
+constexpr char tag[] = "FontStyleAtlas";
+
+// Each glyph point moves to the right by a fifth of its height.
+constexpr FT_Matrix slant = {0x10000, 0x3333, 0, 0x10000};
+
+// Calls `visit` with every unit of the text that can be loaded, rendered, in order. Heavier strokes
+// are made here, so that sizing and rendering see the same bitmaps.
+template <typename Visit>
+void WalkText(FT_Face face, const tagTextInfo& info, Visit visit) {
+    if (face == nullptr) {
+        return;
+    }
+    for (unsigned int i = 0; i < info.length && info.text[i] != 0; ++i) {
+        const FT_ULong code = info.text[i];
+        const FT_Error error =
+            info.bold != 0 ? LoadBoldChar(face, code) : FT_Load_Char(face, code, FT_LOAD_RENDER);
+        if (error == 0) {
+            visit(face->glyph, code);
+        }
+    }
+}
+
+} // namespace
+
+FontStyleAtlas::FontStyleAtlas()
+    : face(nullptr), library(nullptr), texture(0), width(0), height(0) {}
+
+FontStyleAtlas::~FontStyleAtlas() {
+    DeleteTexture();
+    CloseFace(library, face);
+}
+
+int FontStyleAtlas::LoadFontByPath(const char* path) {
+    CloseFace(library, face);
+    return OpenFace(tag, path, library, face);
+}
+
+int FontStyleAtlas::GetFontTexture(const tagTextInfo* info, unsigned int* textureOut) {
+    DeleteTexture();
+    width = 0;
+    height = 0;
+    SetFontStyleAtlas(info);
+    int code = CalculateTexSize(info);
+    if (code == ZO_SUCCESS) {
+        code = CreateStyleTex();
+    }
+    if (code != ZO_SUCCESS) {
+        return code;
+    }
+    try {
+        FontToTexture(info);
+        *textureOut = texture;
+    } catch (const std::bad_alloc&) {
+        code = RefuseMemory(tag);
+        DeleteTexture();
+    }
+    glBindTexture(GL_TEXTURE_2D, 0);
+    return code;
+}
+
+void FontStyleAtlas::SetFontStyleAtlas(const tagTextInfo* info) const {
+    if (face == nullptr) {
+        return;
+    }
+    SetPixelSize(tag, face, info->fontSize);
+    FT_Matrix matrix = slant;
+    FT_Set_Transform(face, info->italic != 0 ? &matrix : nullptr, nullptr);
+}
+
+int FontStyleAtlas::CalculateTexSize(const tagTextInfo* info) {
+    return SizeAtlas(
+        tag, [this, info](auto visit) { WalkText(face, *info, visit); }, width, height);
+}
+
+int FontStyleAtlas::CreateStyleTex() {
+    texture = CreateGlyphTexture(tag, styledAtlasUnit, width, height);
+    return texture == 0 ? ZO_FAILURE : ZO_SUCCESS;
+}
+
+void FontStyleAtlas::FontToTexture(const tagTextInfo* info) {
+    FillAtlas(
+        tag, [this, info](auto visit) { WalkText(face, *info, visit); }, width, height,
+        [this](FT_GlyphSlot glyph, int x, int y, FT_ULong code) {
+            FontCharInfoToMap(glyph, x, y, code);
+        });
+}
+
+void FontStyleAtlas::FontCharInfoToMap(FT_GlyphSlot glyph, int x, int y, unsigned long charCode) {
+    glyphs[charCode] = DescribeGlyph(glyph, x, y, width, height);
+}
+
+void FontStyleAtlas::DeleteTexture() {
+    DropAtlas(texture, width, height, glyphs);
+}
+
+const GlyphMap& FontStyleAtlas::GetGlyphs() const {
+    return glyphs;
+}
+
+unsigned int FontStyleAtlas::GetFontTextureWidth() const {
+    return width;
+}
+
+unsigned int FontStyleAtlas::GetFontTextureHeight() const {
+    return height;
+}

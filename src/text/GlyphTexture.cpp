@@ -1,0 +1,164 @@
+#include "text/GlyphTexture.h"
+
+#include "gl/Texture.h"
+#include "platform/Log.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+#include FT_BITMAP_H
+
+namespace {
+
+// The rows of an atlas are up to 1,023 pixels wide, so a driver that makes atlases at all makes
+// textures of this size.
+constexpr unsigned int commonTextureSide = 1024;
+
+unsigned int LargestTextureSide() {
+    GLint side = 0;
+    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &side);
+    return side > 0 ? static_cast<unsigned int>(side) : static_cast<unsigned int>(INT_MAX);
+}
+
+void Upload(unsigned int x, unsigned int y, const FT_Bitmap& bitmap, const void* coverage) {
+    glTexSubImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(x), static_cast<GLint>(y),
+                    static_cast<GLsizei>(bitmap.width), static_cast<GLsizei>(bitmap.rows), GL_ALPHA,
+                    GL_UNSIGNED_BYTE, coverage);
+}
+
+bool IsTightCoverage(const FT_Bitmap& bitmap) {
+    return bitmap.pixel_mode == FT_PIXEL_MODE_GRAY && bitmap.num_grays == 256 &&
+           bitmap.pitch == static_cast<int>(bitmap.width);
+}
+
+// Copies 8-bit rows, top row first (a negative pitch means that the buffer starts with the bottom
+// row), and stretches fewer grays than 256 to the whole range.
+std::vector<unsigned char> PackRows(const FT_Bitmap& bitmap) {
+    const size_t width = bitmap.width;
+    const size_t rows = bitmap.rows;
+    const size_t stride = static_cast<size_t>(bitmap.pitch < 0 ? -bitmap.pitch : bitmap.pitch);
+    std::vector<unsigned char> packed(width * rows);
+    for (size_t row = 0; row < rows; ++row) {
+        const size_t stored = bitmap.pitch < 0 ? rows - 1 - row : row;
+        memcpy(&packed[row * width], bitmap.buffer + stored * stride, width);
+    }
+    const unsigned int whitest = bitmap.num_grays > 1 ? bitmap.num_grays - 1U : 1U;
+    if (whitest < 255) {
+        for (unsigned char& value : packed) {
+            value =
+                static_cast<unsigned char>(std::min<unsigned int>(value, whitest) * 255 / whitest);
+        }
+    }
+    return packed;
+}
+
+// A bitmap that FreeType allocates, freed however its use ends.
+struct ConvertedBitmap {
+    explicit ConvertedBitmap(FT_Library owner) : library(owner) { FT_Bitmap_Init(&bitmap); }
+    ~ConvertedBitmap() { FT_Bitmap_Done(library, &bitmap); }
+    ConvertedBitmap(const ConvertedBitmap&) = delete;
+    ConvertedBitmap& operator=(const ConvertedBitmap&) = delete;
+
+    FT_Library library;
+    FT_Bitmap bitmap;
+};
+
+// The largest texture that the driver knows can be more than it has memory for.
+bool IsRefusedAsTooLarge(unsigned int width, unsigned int height) {
+    const unsigned int side = std::max(width, height);
+    return side > commonTextureSide && side >= LargestTextureSide() &&
+           glGetError() == GL_OUT_OF_MEMORY;
+}
+
+// Pen advances are 26.6 fixed point; 32 bits of them count.
+float WholePixels(FT_Pos advance) {
+    return static_cast<float>(static_cast<std::uint32_t>(advance) >> 6);
+}
+
+} // namespace
+
+bool FitsTexture(unsigned int width, unsigned int height) {
+    const unsigned int side = std::max(width, height);
+    return side <= commonTextureSide || side <= LargestTextureSide();
+}
+
+void CutToLargestTexture(unsigned int& width, unsigned int& height) {
+    if (!FitsTexture(width, height)) {
+        width = std::min(width, LargestTextureSide());
+        height = std::min(height, LargestTextureSide());
+    }
+}
+
+GLuint CreateGlyphTexture(const char* tag, GLenum unit, unsigned int width, unsigned int height) {
+    const GLuint texture = GenerateTexture(unit);
+    if (texture == 0) {
+        __android_log_print(LogError, tag, "Create texture fail\n");
+        return 0;
+    }
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_ALPHA, static_cast<GLsizei>(width),
+                 static_cast<GLsizei>(height), 0, GL_ALPHA, GL_UNSIGNED_BYTE, nullptr);
+    if (IsRefusedAsTooLarge(width, height)) {
+        __android_log_print(LogError, tag, "Create texture fail\n");
+        glBindTexture(GL_TEXTURE_2D, 0);
+        glDeleteTextures(1, &texture);
+        return 0;
+    }
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    ClampToEdge();
+    FilterLinear();
+    return texture;
+}
+
+bool UploadGlyph(FT_GlyphSlot glyph, unsigned int x, unsigned int y) {
+    const FT_Bitmap& bitmap = glyph->bitmap;
+    if (bitmap.width == 0 || bitmap.rows == 0 || IsTightCoverage(bitmap)) {
+        Upload(x, y, bitmap, bitmap.buffer);
+        return true;
+    }
+    if (bitmap.pixel_mode == FT_PIXEL_MODE_GRAY) {
+        Upload(x, y, bitmap, PackRows(bitmap).data());
+        return true;
+    }
+    ConvertedBitmap coverage(glyph->library);
+    if (FT_Bitmap_Convert(glyph->library, &bitmap, &coverage.bitmap, 1) != 0) {
+        return false;
+    }
+    Upload(x, y, bitmap, PackRows(coverage.bitmap).data());
+    return true;
+}
+
+void DropAtlas(GLuint& texture, unsigned int& width, unsigned int& height, GlyphMap& glyphs) {
+    if (texture != 0) {
+        glDeleteTextures(1, &texture);
+        glyphs.clear();
+        texture = 0;
+        width = 0;
+        height = 0;
+    }
+}
+
+tagGlyphInfo DescribeGlyph(FT_GlyphSlot glyph, int x, int y, unsigned int width,
+                           unsigned int height) {
+    return {WholePixels(glyph->advance.x),
+            WholePixels(glyph->advance.y),
+            static_cast<float>(glyph->bitmap.width),
+            static_cast<float>(glyph->bitmap.rows),
+            static_cast<float>(glyph->bitmap_left),
+            static_cast<float>(glyph->bitmap_top),
+            static_cast<float>(x) / static_cast<float>(width),
+            static_cast<float>(y) / static_cast<float>(height)};
+}
+
+void ReportLeftOut(const char* tag, unsigned int count) {
+    if (count != 0) {
+        __android_log_print(LogError, tag, "%u characters do not fit the largest texture\n", count);
+    }
+}
+
+void LogEmptyAtlas(const char* tag, unsigned int width, unsigned int height) {
+    __android_log_print(LogError, tag, "Calculate texture width %ud, height %ud\n", width, height);
+}

@@ -1,0 +1,82 @@
+/// @file
+/// Measuring and drawing of text.
+#ifndef ZOGLES_TEXT_OSDTEXT_H
+#define ZOGLES_TEXT_OSDTEXT_H
+
+#include "gl/FBOManager.h"
+#include "gl/ShaderProgram.h"
+#include "gl/Vertices.h"
+#include "surface/Records.h"
+#include "text/FontAtlas.h"
+#include "text/FontStyleAtlas.h"
+
+/// Draws texts, each with one upload and one draw call, and measures them.
+///
+/// Text of the standard size and style comes from the standard atlas, all other from the styled
+/// one. Whether a unit can be shown is always the standard atlas's word, and measuring uses nothing
+/// but that atlas.
+class ZOGLES_API OSDText {
+public:
+    /// Shares the atlases with the surface. Makes no GL call.
+    OSDText(std::shared_ptr<FontAtlas> standardAtlas, std::shared_ptr<FontStyleAtlas> styledAtlas);
+    ~OSDText();
+
+    OSDText(const OSDText&) = delete;
+    OSDText& operator=(const OSDText&) = delete;
+
+    /// Builds the program and the vertex buffer.
+    /// @return ZO_SUCCESS or ZO_PROGRAM_FAILED
+    int Init();
+
+    /// Whether the standard atlas serves a request: size 40, neither bold nor italic.
+    bool IsDrawStandardFont(const tagTextInfo* info) const;
+
+    /// Whether the font can show a unit, that is, whether it leaves a mark. Changes nothing.
+    bool FindCharFromMap(char16_t unit) const;
+
+    /// Measures a text in pixels at the standard atlas's size. The height is always 50.
+    void GetTextSize(const tagTextInfo* info, unsigned int* width, unsigned int* height) const;
+
+    /// Chooses the atlas for a request, building the styled one where it serves, and notes the
+    /// scale of the target.
+    /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a target of size 0, or the styled atlas's code
+    int GetFontTex(const tagFrameBuffObject* fbo, const tagTextInfo* info);
+
+    /// Builds the quads of `length` units with the pen starting at (x, y), uploads and draws them.
+    /// @param x,y vertex space; y is the baseline
+    /// @pre vertices, program, texture, target and blending are set up
+    void GLDrawText(const char16_t* text, unsigned int length, float x, float y);
+
+    /// `GLDrawText` with the vertices bound before and unbound after.
+    void RenderText(const char16_t* text, unsigned int length, float x, float y);
+
+    /// Draws a request into a target with the pen starting at (x, y).
+    /// @param x,y vertex space of the target; y is the baseline
+    /// @return ZO_SUCCESS, or a code of `GetFontTex`, or ZO_FAILURE when memory for the vertices is
+    ///     refused; nothing is drawn then, and the GL state is as after a draw
+    int DrawText(const tagFrameBuffObject* fbo, const tagTextInfo* info, float x, float y);
+
+private:
+    int DrawUnits(const char16_t* text, unsigned int length, float x, float y);
+    void UploadAndDraw(const char16_t* text, unsigned int length, float x, float y,
+                       Vertex* scratch);
+    size_t PlaceGlyphs(const char16_t* text, unsigned int length, float x, float y,
+                       Vertex* vertices);
+
+    std::shared_ptr<FontAtlas> fontAtlas;
+    std::shared_ptr<FontStyleAtlas> fontStyleAtlas;
+    std::unique_ptr<ShaderProgram> shaderProgram;
+    GLuint program;
+    GLuint vertexBuffer;
+    GLuint fontTexture;
+    unsigned int fontTexWidth;
+    unsigned int fontTexHeight;
+    GLint texLocation;
+    GLint coordLocation;
+    GLint colorLocation;
+    float scaleX;
+    float scaleY;
+    GlyphMap glyphs;
+};
+
+#endif
