@@ -1,0 +1,91 @@
+// Counting and refusing of the library's heap allocations. It allocates by operator new alone, so
+// that is what the test programs replace.
+
+#include "support/Harness.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+// Driver threads allocate too; only the thread that runs the test counts.
+thread_local int outsideDepth = 0;
+thread_local bool isCounting = false;
+thread_local int allocations = 0;
+thread_local int refuseIn = 0;
+
+bool IsRefused() {
+    if (outsideDepth > 0) {
+        return false;
+    }
+    if (isCounting) {
+        ++allocations;
+    }
+    return refuseIn > 0 && --refuseIn == 0;
+}
+
+void* Allocate(size_t size) {
+    return IsRefused() ? nullptr : malloc(size == 0 ? 1 : size);
+}
+
+} // namespace
+
+// The library allocates by operator new alone, so that is where the tests count and refuse.
+void* operator new(size_t size) {
+    void* memory = Allocate(size);
+    if (memory == nullptr) {
+        throw std::bad_alloc();
+    }
+    return memory;
+}
+void* operator new(size_t size, const std::nothrow_t&) noexcept {
+    return Allocate(size);
+}
+void* operator new[](size_t size) {
+    return operator new(size);
+}
+void* operator new[](size_t size, const std::nothrow_t&) noexcept {
+    return Allocate(size);
+}
+void operator delete(void* memory) noexcept {
+    free(memory);
+}
+void operator delete(void* memory, size_t) noexcept {
+    free(memory);
+}
+void operator delete(void* memory, const std::nothrow_t&) noexcept {
+    free(memory);
+}
+void operator delete[](void* memory) noexcept {
+    free(memory);
+}
+void operator delete[](void* memory, size_t) noexcept {
+    free(memory);
+}
+void operator delete[](void* memory, const std::nothrow_t&) noexcept {
+    free(memory);
+}
+
+namespace harness {
+
+int CountAllocations(const std::function<void()>& action) {
+    allocations = 0;
+    isCounting = true;
+    action();
+    isCounting = false;
+    return allocations;
+}
+
+void RefuseAllocation(int nth) {
+    refuseIn = nth;
+}
+
+Outside::Outside() : nested(outsideDepth > 0) {
+    ++outsideDepth;
+}
+
+Outside::~Outside() {
+    --outsideDepth;
+}
+
+} // namespace harness

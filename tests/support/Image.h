@@ -1,0 +1,37 @@
+/// @file
+/// Pixels read back, and their comparison with what a formula says.
+#ifndef ZOGLES_TESTS_SUPPORT_IMAGE_H
+#define ZOGLES_TESTS_SUPPORT_IMAGE_H
+
+#include <array>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+/// Red, green, blue, alpha.
+using Pixel = std::array<unsigned char, 4>;
+
+/// An image with its origin at the top-left corner.
+struct Image {
+    int width = 0;
+    int height = 0;
+    std::vector<Pixel> pixels;
+
+    const Pixel& At(int x, int y) const {
+        return pixels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+    }
+};
+
+/// Reads the bound framebuffer.
+Image ReadPixels(int width, int height);
+
+/// Whether every pixel is what `expected` says of (x, y), to within `tolerance` a channel. If not,
+/// names the first that is not and leaves the image, and one with the wrong pixels in red, as PNG
+/// files in the folder that ZOGLES_TEST_ARTIFACTS names, else the working folder.
+::testing::AssertionResult
+Matches(const Image& image, const std::function<Pixel(int x, int y)>& expected, int tolerance = 0);
+
+void WritePng(const Image& image, const std::string& path);
+
+#endif

@@ -1,0 +1,29 @@
+/// @file
+/// How an interposed function is written.
+#ifndef ZOGLES_TESTS_SUPPORT_INTERPOSE_H
+#define ZOGLES_TESTS_SUPPORT_INTERPOSE_H
+
+#include "support/Harness.h"
+
+/// Opens the body of an interposed function: finds the `real` one, passes on what is not the
+/// library's call, and notes the call. `isFailing` then says whether a fault is set.
+#define INTERPOSE(name, ...)                                                                       \
+    static const auto real = reinterpret_cast<decltype(&name)>(harness::NextSymbol(#name));        \
+    const harness::Outside outside;                                                                \
+    if (outside.IsNested()) {                                                                      \
+        return real(__VA_ARGS__);                                                                  \
+    }                                                                                              \
+    if (harness::Current().isRecording) {                                                          \
+        harness::Current().calls.push_back(harness::Call(#name, ##__VA_ARGS__));                   \
+    }                                                                                              \
+    [[maybe_unused]] const bool isFailing = harness::CountCall(#name)
+
+/// A whole function that only passes on, and that yields 0, null or nothing where a fault is set.
+#define PASS_ON(Return, name, parameters, ...)                                                     \
+    extern "C" Return name parameters {                                                            \
+        using Result = Return;                                                                     \
+        INTERPOSE(name, ##__VA_ARGS__);                                                            \
+        return isFailing ? Result() : real(__VA_ARGS__);                                           \
+    }
+
+#endif

@@ -1,0 +1,135 @@
+#include "support/SurfaceFixture.h"
+
+#include <EGL/egl.h>
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int grabAttempts = 100;
+constexpr useconds_t grabPause = 20000;
+
+Display* Open(void* display) {
+    return static_cast<Display*>(display);
+}
+
+Image ToImage(XImage* grabbed) {
+    Image image{grabbed->width, grabbed->height, {}};
+    for (int y = 0; y < grabbed->height; ++y) {
+        for (int x = 0; x < grabbed->width; ++x) {
+            const unsigned long pixel = XGetPixel(grabbed, x, y);
+            image.pixels.push_back({static_cast<unsigned char>(pixel >> 16),
+                                    static_cast<unsigned char>(pixel >> 8),
+                                    static_cast<unsigned char>(pixel), 255});
+        }
+    }
+    return image;
+}
+
+GLint Integer(GLenum name) {
+    GLint value = -1;
+    glGetIntegerv(name, &value);
+    return value;
+}
+
+} // namespace
+
+TestWindow::TestWindow(int windowWidth, int windowHeight)
+    : display(XOpenDisplay(nullptr)), window(0), width(windowWidth), height(windowHeight) {
+    if (display == nullptr) {
+        throw std::runtime_error("the tests need an X server");
+    }
+    window = XCreateSimpleWindow(Open(display), DefaultRootWindow(Open(display)), 0, 0,
+                                 static_cast<unsigned int>(width),
+                                 static_cast<unsigned int>(height), 0, 0, 0);
+    XMapWindow(Open(display), window);
+    XSync(Open(display), False);
+}
+
+TestWindow::~TestWindow() {
+    XDestroyWindow(Open(display), window);
+    XCloseDisplay(Open(display));
+}
+
+ANativeWindow* TestWindow::Native() const {
+    return reinterpret_cast<ANativeWindow*>(static_cast<uintptr_t>(window));
+}
+
+Image TestWindow::Grab(const std::function<bool(const Image&)>& isDone) const {
+    Image image;
+    for (int i = 0; i < grabAttempts; ++i) {
+        XImage* grabbed = XGetImage(Open(display), window, 0, 0, static_cast<unsigned int>(width),
+                                    static_cast<unsigned int>(height), AllPlanes, ZPixmap);
+        image = ToImage(grabbed);
+        XDestroyImage(grabbed);
+        if (isDone(image)) {
+            break;
+        }
+        usleep(grabPause);
+    }
+    return image;
+}
+
+void SurfaceFixture::SetUp() {
+    harness::Reset();
+    surface = std::make_unique<ZoGLDrawSurface>();
+}
+
+void SurfaceFixture::TearDown() {
+    if (eglGetCurrentContext() != EGL_NO_CONTEXT) {
+        EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
+    }
+    surface.reset();
+    EXPECT_EQ(harness::DescribeLive(), "");
+    harness::Reset();
+}
+
+void SurfaceFixture::Bind() {
+    ASSERT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_SUCCESS);
+    harness::TakeLog();
+}
+
+unsigned int SurfaceFixture::CreateBuffer(unsigned int width, unsigned int height) {
+    unsigned int handle = 0;
+    EXPECT_EQ(surface->ZoCreateGLFBO(&handle, width, height, ZO_FORMAT_RGBA8888), ZO_SUCCESS);
+    harness::TakeLog();
+    return handle;
+}
+
+tagFrameBuffObject SurfaceFixture::Target(unsigned int handle) {
+    tagFrameBuffObject target = {};
+    EXPECT_TRUE(surface->fboManager->GetFBOInst(handle, &target));
+    return target;
+}
+
+Image SurfaceFixture::Read(unsigned int handle) {
+    const tagFrameBuffObject target = Target(handle);
+    glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
+    const Image image = ReadPixels(target.width, target.height);
+    glBindFramebuffer(GL_FRAMEBUFFER, 0);
+    return image;
+}
+
+void SurfaceFixture::ExpectGlError(GLenum error) {
+    EXPECT_EQ(glGetError(), error);
+    while (glGetError() != GL_NO_ERROR) {
+    }
+}
+
+void SurfaceFixture::ExpectStateAfterDraw(GLenum activeTexture) {
+    EXPECT_EQ(Integer(GL_ARRAY_BUFFER_BINDING), 0);
+    EXPECT_EQ(Integer(GL_ELEMENT_ARRAY_BUFFER_BINDING), 0);
+    EXPECT_EQ(Integer(GL_FRAMEBUFFER_BINDING), 0);
+    EXPECT_EQ(Integer(GL_ACTIVE_TEXTURE), static_cast<GLint>(activeTexture));
+    EXPECT_EQ(Integer(GL_TEXTURE_BINDING_2D), 0);
+    for (const GLenum capability :
+         {GL_BLEND, GL_DEPTH_TEST, GL_STENCIL_TEST, GL_SCISSOR_TEST, GL_CULL_FACE}) {
+        EXPECT_EQ(glIsEnabled(capability), GL_FALSE) << capability;
+    }
+    for (GLuint attribute = 0; attribute < 8; ++attribute) {
+        GLint isEnabled = 1;
+        glGetVertexAttribiv(attribute, GL_VERTEX_ATTRIB_ARRAY_ENABLED, &isEnabled);
+        EXPECT_EQ(isEnabled, 0) << attribute;
+    }
+}
