@@ -120,6 +120,14 @@ private:
     bool nested;
 };
 
+/// Keeps a call while recording.
+template <typename... Args>
+void NoteCall(const char* name, Args... args) {
+    if (Current().isRecording) {
+        Current().calls.push_back(Call(name, args...));
+    }
+}
+
 /// Counts a call and says whether it is to fail.
 bool CountCall(const char* name);
 

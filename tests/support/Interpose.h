@@ -7,23 +7,23 @@
 
 /// Opens the body of an interposed function: finds the `real` one, passes on what is not the
 /// library's call, and notes the call. `isFailing` then says whether a fault is set.
-#define INTERPOSE(name, ...)                                                                       \
+/// @param arguments in parentheses
+#define INTERPOSE(name, arguments)                                                                 \
     static const auto real = reinterpret_cast<decltype(&name)>(harness::NextSymbol(#name));        \
     const harness::Outside outside;                                                                \
     if (outside.IsNested()) {                                                                      \
-        return real(__VA_ARGS__);                                                                  \
+        return real arguments;                                                                     \
     }                                                                                              \
-    if (harness::Current().isRecording) {                                                          \
-        harness::Current().calls.push_back(harness::Call(#name, ##__VA_ARGS__));                   \
-    }                                                                                              \
+    const auto noteCall = [](auto... values) { harness::NoteCall(#name, values...); };             \
+    noteCall arguments;                                                                            \
     [[maybe_unused]] const bool isFailing = harness::CountCall(#name)
 
 /// A whole function that only passes on, and that yields 0, null or nothing where a fault is set.
-#define PASS_ON(Return, name, parameters, ...)                                                     \
+#define PASS_ON(Return, name, parameters, arguments)                                               \
     extern "C" Return name parameters {                                                            \
         using Result = Return;                                                                     \
-        INTERPOSE(name, ##__VA_ARGS__);                                                            \
-        return isFailing ? Result() : real(__VA_ARGS__);                                           \
+        INTERPOSE(name, arguments);                                                                \
+        return isFailing ? Result() : real arguments;                                              \
     }
 
 #endif

@@ -2,27 +2,27 @@
 
 #include <EGL/egl.h>
 
-PASS_ON(EGLDisplay, eglGetDisplay, (EGLNativeDisplayType native), native)
-PASS_ON(EGLBoolean, eglInitialize, (EGLDisplay display, EGLint* major, EGLint* minor), display,
-        major, minor)
+PASS_ON(EGLDisplay, eglGetDisplay, (EGLNativeDisplayType native), (native))
+PASS_ON(EGLBoolean, eglInitialize, (EGLDisplay display, EGLint* major, EGLint* minor),
+        (display, major, minor))
 PASS_ON(EGLBoolean, eglChooseConfig,
         (EGLDisplay display, const EGLint* attributes, EGLConfig* configs, EGLint size,
          EGLint* count),
-        display, attributes, configs, size, count)
-PASS_ON(EGLint, eglGetError, ())
+        (display, attributes, configs, size, count))
+PASS_ON(EGLint, eglGetError, (), ())
 PASS_ON(EGLBoolean, eglMakeCurrent,
-        (EGLDisplay display, EGLSurface draw, EGLSurface read, EGLContext context), display, draw,
-        read, context)
+        (EGLDisplay display, EGLSurface draw, EGLSurface read, EGLContext context),
+        (display, draw, read, context))
 PASS_ON(EGLBoolean, eglQuerySurface,
-        (EGLDisplay display, EGLSurface surface, EGLint attribute, EGLint* value), display, surface,
-        attribute, value)
-PASS_ON(EGLBoolean, eglReleaseThread, ())
-PASS_ON(EGLBoolean, eglSwapBuffers, (EGLDisplay display, EGLSurface surface), display, surface)
-PASS_ON(EGLBoolean, eglTerminate, (EGLDisplay display), display)
+        (EGLDisplay display, EGLSurface surface, EGLint attribute, EGLint* value),
+        (display, surface, attribute, value))
+PASS_ON(EGLBoolean, eglReleaseThread, (), ())
+PASS_ON(EGLBoolean, eglSwapBuffers, (EGLDisplay display, EGLSurface surface), (display, surface))
+PASS_ON(EGLBoolean, eglTerminate, (EGLDisplay display), (display))
 
 extern "C" EGLContext eglCreateContext(EGLDisplay display, EGLConfig config, EGLContext share,
                                        const EGLint* attributes) {
-    INTERPOSE(eglCreateContext, display, config, share, attributes);
+    INTERPOSE(eglCreateContext, (display, config, share, attributes));
     EGLContext context = isFailing ? EGL_NO_CONTEXT : real(display, config, share, attributes);
     if (context != EGL_NO_CONTEXT) {
         harness::AddLive("context", reinterpret_cast<size_t>(context));
@@ -31,14 +31,14 @@ extern "C" EGLContext eglCreateContext(EGLDisplay display, EGLConfig config, EGL
 }
 
 extern "C" EGLBoolean eglDestroyContext(EGLDisplay display, EGLContext context) {
-    INTERPOSE(eglDestroyContext, display, context);
+    INTERPOSE(eglDestroyContext, (display, context));
     harness::RemoveLive("context", reinterpret_cast<size_t>(context));
     return real(display, context);
 }
 
 extern "C" EGLSurface eglCreateWindowSurface(EGLDisplay display, EGLConfig config,
                                              EGLNativeWindowType window, const EGLint* attributes) {
-    INTERPOSE(eglCreateWindowSurface, display, config, window, attributes);
+    INTERPOSE(eglCreateWindowSurface, (display, config, window, attributes));
     EGLSurface surface = isFailing ? EGL_NO_SURFACE : real(display, config, window, attributes);
     if (surface != EGL_NO_SURFACE) {
         harness::AddLive("window surface", reinterpret_cast<size_t>(surface));
@@ -47,7 +47,7 @@ extern "C" EGLSurface eglCreateWindowSurface(EGLDisplay display, EGLConfig confi
 }
 
 extern "C" EGLBoolean eglDestroySurface(EGLDisplay display, EGLSurface surface) {
-    INTERPOSE(eglDestroySurface, display, surface);
+    INTERPOSE(eglDestroySurface, (display, surface));
     harness::RemoveLive("window surface", reinterpret_cast<size_t>(surface));
     return real(display, surface);
 }

@@ -2,59 +2,59 @@
 
 #include <GLES2/gl2.h>
 
-PASS_ON(void, glActiveTexture, (GLenum unit), unit)
-PASS_ON(void, glAttachShader, (GLuint program, GLuint shader), program, shader)
-PASS_ON(void, glBindBuffer, (GLenum target, GLuint buffer), target, buffer)
-PASS_ON(void, glBindFramebuffer, (GLenum target, GLuint framebuffer), target, framebuffer)
-PASS_ON(void, glBindTexture, (GLenum target, GLuint texture), target, texture)
-PASS_ON(void, glBlendFunc, (GLenum source, GLenum destination), source, destination)
-PASS_ON(void, glClear, (GLbitfield mask), mask)
-PASS_ON(void, glClearColor, (GLfloat r, GLfloat g, GLfloat b, GLfloat a), r, g, b, a)
-PASS_ON(void, glCompileShader, (GLuint shader), shader)
+PASS_ON(void, glActiveTexture, (GLenum unit), (unit))
+PASS_ON(void, glAttachShader, (GLuint program, GLuint shader), (program, shader))
+PASS_ON(void, glBindBuffer, (GLenum target, GLuint buffer), (target, buffer))
+PASS_ON(void, glBindFramebuffer, (GLenum target, GLuint framebuffer), (target, framebuffer))
+PASS_ON(void, glBindTexture, (GLenum target, GLuint texture), (target, texture))
+PASS_ON(void, glBlendFunc, (GLenum source, GLenum destination), (source, destination))
+PASS_ON(void, glClear, (GLbitfield mask), (mask))
+PASS_ON(void, glClearColor, (GLfloat r, GLfloat g, GLfloat b, GLfloat a), (r, g, b, a))
+PASS_ON(void, glCompileShader, (GLuint shader), (shader))
 PASS_ON(void, glCopyTexImage2D,
         (GLenum target, GLint level, GLenum format, GLint x, GLint y, GLsizei w, GLsizei h,
          GLint border),
-        target, level, format, x, y, w, h, border)
-PASS_ON(void, glDisable, (GLenum capability), capability)
-PASS_ON(void, glDisableVertexAttribArray, (GLuint index), index)
-PASS_ON(void, glDrawArrays, (GLenum mode, GLint first, GLsizei count), mode, first, count)
-PASS_ON(void, glDrawElements, (GLenum mode, GLsizei count, GLenum type, const void* indices), mode,
-        count, type, indices)
-PASS_ON(void, glEnable, (GLenum capability), capability)
-PASS_ON(void, glEnableVertexAttribArray, (GLuint index), index)
+        (target, level, format, x, y, w, h, border))
+PASS_ON(void, glDisable, (GLenum capability), (capability))
+PASS_ON(void, glDisableVertexAttribArray, (GLuint index), (index))
+PASS_ON(void, glDrawArrays, (GLenum mode, GLint first, GLsizei count), (mode, first, count))
+PASS_ON(void, glDrawElements, (GLenum mode, GLsizei count, GLenum type, const void* indices),
+        (mode, count, type, indices))
+PASS_ON(void, glEnable, (GLenum capability), (capability))
+PASS_ON(void, glEnableVertexAttribArray, (GLuint index), (index))
 PASS_ON(void, glFramebufferTexture2D,
-        (GLenum target, GLenum attachment, GLenum texTarget, GLuint texture, GLint level), target,
-        attachment, texTarget, texture, level)
-PASS_ON(GLenum, glGetError, ())
+        (GLenum target, GLenum attachment, GLenum texTarget, GLuint texture, GLint level),
+        (target, attachment, texTarget, texture, level))
+PASS_ON(GLenum, glGetError, (), ())
 PASS_ON(void, glGetProgramInfoLog, (GLuint program, GLsizei size, GLsizei* length, GLchar* text),
-        program, size, length, text)
+        (program, size, length, text))
 PASS_ON(void, glGetShaderInfoLog, (GLuint shader, GLsizei size, GLsizei* length, GLchar* text),
-        shader, size, length, text)
-PASS_ON(const GLubyte*, glGetString, (GLenum name), name)
-PASS_ON(GLboolean, glIsProgram, (GLuint program), program)
-PASS_ON(GLboolean, glIsShader, (GLuint shader), shader)
-PASS_ON(void, glLinkProgram, (GLuint program), program)
-PASS_ON(void, glPixelStorei, (GLenum name, GLint value), name, value)
+        (shader, size, length, text))
+PASS_ON(const GLubyte*, glGetString, (GLenum name), (name))
+PASS_ON(GLboolean, glIsProgram, (GLuint program), (program))
+PASS_ON(GLboolean, glIsShader, (GLuint shader), (shader))
+PASS_ON(void, glLinkProgram, (GLuint program), (program))
+PASS_ON(void, glPixelStorei, (GLenum name, GLint value), (name, value))
 PASS_ON(void, glTexImage2D,
         (GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
          GLint border, GLenum format, GLenum type, const void* pixels),
-        target, level, internalFormat, width, height, border, format, type, pixels)
-PASS_ON(void, glTexParameteri, (GLenum target, GLenum name, GLint value), target, name, value)
+        (target, level, internalFormat, width, height, border, format, type, pixels))
+PASS_ON(void, glTexParameteri, (GLenum target, GLenum name, GLint value), (target, name, value))
 PASS_ON(void, glTexSubImage2D,
         (GLenum target, GLint level, GLint x, GLint y, GLsizei width, GLsizei height, GLenum format,
          GLenum type, const void* pixels),
-        target, level, x, y, width, height, format, type, pixels)
-PASS_ON(void, glUniform1i, (GLint location, GLint value), location, value)
-PASS_ON(void, glUseProgram, (GLuint program), program)
+        (target, level, x, y, width, height, format, type, pixels))
+PASS_ON(void, glUniform1i, (GLint location, GLint value), (location, value))
+PASS_ON(void, glUseProgram, (GLuint program), (program))
 PASS_ON(void, glVertexAttribPointer,
         (GLuint index, GLint size, GLenum type, GLboolean normalised, GLsizei stride,
          const void* offset),
-        index, size, type, normalised, stride, offset)
-PASS_ON(void, glViewport, (GLint x, GLint y, GLsizei width, GLsizei height), x, y, width, height)
+        (index, size, type, normalised, stride, offset))
+PASS_ON(void, glViewport, (GLint x, GLint y, GLsizei width, GLsizei height), (x, y, width, height))
 
 // The four floats of a colour are worth seeing.
 extern "C" void glUniform4fv(GLint location, GLsizei count, const GLfloat* value) {
-    INTERPOSE(glUniform4fv, location, count, value);
+    INTERPOSE(glUniform4fv, (location, count, value));
     if (harness::Current().isRecording) {
         harness::Current().calls.back() =
             harness::Call("glUniform4fv", location, count, value[0], value[1], value[2], value[3]);
@@ -63,7 +63,7 @@ extern "C" void glUniform4fv(GLint location, GLsizei count, const GLfloat* value
 }
 
 extern "C" void glBufferData(GLenum target, GLsizeiptr size, const void* data, GLenum usage) {
-    INTERPOSE(glBufferData, target, size, data, usage);
+    INTERPOSE(glBufferData, (target, size, data, usage));
     const unsigned char* bytes = static_cast<const unsigned char*>(data);
     harness::Current().bufferData.assign(bytes, bytes + size);
     real(target, size, data, usage);
@@ -71,21 +71,21 @@ extern "C" void glBufferData(GLenum target, GLsizeiptr size, const void* data, G
 
 extern "C" void glShaderSource(GLuint shader, GLsizei count, const GLchar* const* strings,
                                const GLint* lengths) {
-    INTERPOSE(glShaderSource, shader, count, strings, lengths);
+    INTERPOSE(glShaderSource, (shader, count, strings, lengths));
     harness::Current().shaderStrings.insert(harness::Current().shaderStrings.end(), strings,
                                             strings + count);
     real(shader, count, strings, lengths);
 }
 
 extern "C" GLenum glCheckFramebufferStatus(GLenum target) {
-    INTERPOSE(glCheckFramebufferStatus, target);
+    INTERPOSE(glCheckFramebufferStatus, (target));
     const GLenum status = real(target);
     return static_cast<GLenum>(
         harness::Current().framebufferStatus.value_or(static_cast<int>(status)));
 }
 
 extern "C" void glGetIntegerv(GLenum name, GLint* value) {
-    INTERPOSE(glGetIntegerv, name, value);
+    INTERPOSE(glGetIntegerv, (name, value));
     if (isFailing) {
         return;
     }
@@ -98,7 +98,7 @@ extern "C" void glGetIntegerv(GLenum name, GLint* value) {
 // A failing query leaves the value as it was, which is how a lost context behaves.
 #define QUERY(name)                                                                                \
     extern "C" void name(GLuint object, GLenum what, GLint* value) {                               \
-        INTERPOSE(name, object, what, value);                                                      \
+        INTERPOSE(name, (object, what, value));                                                    \
         if (isFailing) {                                                                           \
             return;                                                                                \
         }                                                                                          \
@@ -112,7 +112,7 @@ QUERY(glGetProgramiv)
 
 #define LOCATION(name)                                                                             \
     extern "C" GLint name(GLuint program, const GLchar* variable) {                                \
-        INTERPOSE(name, program, variable);                                                        \
+        INTERPOSE(name, (program, variable));                                                      \
         return isFailing ? -1 : real(program, variable);                                           \
     }
 LOCATION(glGetAttribLocation)
@@ -121,7 +121,7 @@ LOCATION(glGetUniformLocation)
 // The library makes and deletes one object at a time; a driver that has none left yields 0.
 #define GENERATE(name, kind)                                                                       \
     extern "C" void name(GLsizei count, GLuint* objects) {                                         \
-        INTERPOSE(name, count, objects);                                                           \
+        INTERPOSE(name, (count, objects));                                                         \
         if (isFailing) {                                                                           \
             *objects = 0;                                                                          \
             return;                                                                                \
@@ -133,7 +133,7 @@ LOCATION(glGetUniformLocation)
     }
 #define DELETE_GENERATED(name, kind)                                                               \
     extern "C" void name(GLsizei count, const GLuint* objects) {                                   \
-        INTERPOSE(name, count, objects);                                                           \
+        INTERPOSE(name, (count, objects));                                                         \
         harness::RemoveLive(kind, *objects);                                                       \
         real(count, objects);                                                                      \
     }
@@ -145,7 +145,7 @@ DELETE_GENERATED(glDeleteBuffers, "buffer")
 DELETE_GENERATED(glDeleteFramebuffers, "framebuffer")
 
 extern "C" GLuint glCreateShader(GLenum type) {
-    INTERPOSE(glCreateShader, type);
+    INTERPOSE(glCreateShader, (type));
     const GLuint shader = isFailing ? 0 : real(type);
     if (shader != 0) {
         harness::AddLive("shader", shader);
@@ -154,13 +154,13 @@ extern "C" GLuint glCreateShader(GLenum type) {
 }
 
 extern "C" void glDeleteShader(GLuint shader) {
-    INTERPOSE(glDeleteShader, shader);
+    INTERPOSE(glDeleteShader, (shader));
     harness::RemoveLive("shader", shader);
     real(shader);
 }
 
 extern "C" GLuint glCreateProgram() {
-    INTERPOSE(glCreateProgram);
+    INTERPOSE(glCreateProgram, ());
     const GLuint program = isFailing ? 0 : real();
     if (program != 0) {
         harness::AddLive("program", program);
@@ -169,7 +169,7 @@ extern "C" GLuint glCreateProgram() {
 }
 
 extern "C" void glDeleteProgram(GLuint program) {
-    INTERPOSE(glDeleteProgram, program);
+    INTERPOSE(glDeleteProgram, (program));
     harness::RemoveLive("program", program);
     real(program);
 }

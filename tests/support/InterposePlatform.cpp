@@ -16,7 +16,7 @@ extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, .
 }
 
 extern "C" int memset_s(void* dest, size_t destSize, int value, size_t count) {
-    INTERPOSE(memset_s, dest, destSize, value, count);
+    INTERPOSE(memset_s, (dest, destSize, value, count));
     constexpr int refused = 34;
     return isFailing ? refused : real(dest, destSize, value, count);
 }

@@ -1,0 +1,80 @@
+#include "Stage.h"
+
+#include <cmath>
+
+namespace {
+
+// Past the pixels of a full-HD picture, a stage of four times the size takes too much memory.
+constexpr int mostPixelsForFour = 1920 * 1080;
+
+int ChooseScale(int width, int height) {
+    return width * height <= mostPixelsForFour ? 4 : 2;
+}
+
+// How far a quarter circle leaves the side of its square in a row, counted from the circle's pole.
+int CornerInset(int radius, int row) {
+    const double rise = radius - row - 0.5;
+    return static_cast<int>(radius - std::sqrt(radius * radius - rise * rise) + 0.5);
+}
+
+} // namespace
+
+Stage::Stage(Canvas& target, int width, int height)
+    : canvas(target), scale(ChooseScale(width, height)),
+      buffer(canvas.CreateBuffer(width * scale, height * scale)),
+      half(scale == 4 ? canvas.CreateBuffer(width * 2, height * 2) : ZO_NO_HANDLE) {}
+
+Stage::~Stage() {
+    canvas.DestroyBuffer(buffer);
+    if (half != ZO_NO_HANDLE) {
+        canvas.DestroyBuffer(half);
+    }
+}
+
+void Stage::Fill(const Rect& rect, const Color& color) {
+    FillFine(rect.Times(scale), color);
+}
+
+void Stage::FillFine(const Rect& rect, const Color& color) {
+    canvas.Fill(buffer, rect, color);
+}
+
+void Stage::ForEachStrip(const Rect& rect, int radius,
+                         const std::function<void(const Rect&)>& draw) {
+    const Rect fine = rect.Times(scale);
+    const int corner = std::min({radius * scale, fine.width / 2, fine.height / 2});
+    for (int row = 0; row < corner; ++row) {
+        const int inset = CornerInset(corner, row);
+        draw({fine.x + inset, fine.y + row, fine.width - 2 * inset, 1});
+        draw({fine.x + inset, fine.Bottom() - 1 - row, fine.width - 2 * inset, 1});
+    }
+    draw({fine.x, fine.y + corner, fine.width, fine.height - 2 * corner});
+}
+
+void Stage::FillRounded(const Rect& rect, int radius, const Color& color) {
+    ForEachStrip(rect, radius, [&](const Rect& strip) { FillFine(strip, color); });
+}
+
+void Stage::Stretch(unsigned int from, const Rect& source) {
+    canvas.Copy(from, source, buffer, Rect{0, 0, 0, 0});
+}
+
+void Stage::CopyRounded(unsigned int from, const Rect& rect, int radius) {
+    ForEachStrip(rect, radius, [&](const Rect& strip) {
+        const Rect source{strip.x / scale, strip.y / scale, std::max(1, strip.width / scale),
+                          std::max(1, strip.height / scale)};
+        canvas.Copy(from, source, buffer, strip);
+    });
+}
+
+// One halving at a time: halving by a linear copy takes the mean of four pixels, while a larger
+// step would leave pixels out.
+void Stage::ReduceTo(unsigned int to, int width, int height) {
+    const Rect target{0, 0, width, height};
+    if (half == ZO_NO_HANDLE) {
+        canvas.Copy(buffer, target.Times(2), to, target);
+        return;
+    }
+    canvas.Copy(buffer, target.Times(4), half, target.Times(2));
+    canvas.Copy(half, target.Times(2), to, target);
+}

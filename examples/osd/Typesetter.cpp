@@ -1,0 +1,104 @@
+#include "Typesetter.h"
+
+#include <algorithm>
+
+namespace {
+
+// The size that the library calls standard: drawn from glyphs kept ready, at the size that the font
+// was loaded at.
+constexpr unsigned int standardFontSize = 40;
+
+// Shares of the text size that suit most faces.
+constexpr double spaceWidth = 0.30;
+constexpr double capitalHeight = 0.73;
+
+} // namespace
+
+Typesetter::Typesetter(Canvas& target, int pixels) : canvas(target), standardPixels(pixels) {}
+
+// Plain text of the loaded size takes the fast road. Any other text of the size 40 must not: where
+// the font was loaded at another size, it would come out at that one.
+TextStyle Typesetter::ToStyle(const Type& type) const {
+    const bool isPlain = !type.bold && !type.italic;
+    if (isPlain && type.pixels == standardPixels) {
+        return {type.color, standardFontSize, false, false};
+    }
+    unsigned int size = static_cast<unsigned int>(std::max(type.pixels, 1));
+    if (isPlain && size == standardFontSize) {
+        ++size;
+    }
+    return {type.color, size, type.bold, type.italic};
+}
+
+// The library measures at the loaded size, so other sizes are a matter of proportion.
+int Typesetter::MeasureWord(std::u16string_view word, const Type& type) {
+    const double width = canvas.MeasureText(word);
+    return static_cast<int>(width * type.pixels / standardPixels + 0.5);
+}
+
+// Spaces take no room when drawn, so every word is drawn on its own and the pen moved between them.
+Line Typesetter::Arrange(std::u16string_view text, const Type& type) {
+    const int space = static_cast<int>(type.pixels * spaceWidth + 0.5);
+    Line line{{}, 0};
+    int pen = 0;
+    while (!text.empty()) {
+        const size_t length = std::min(text.find(u' '), text.size());
+        if (length > 0) {
+            const std::u16string_view word = text.substr(0, length);
+            line.words.push_back({word, pen});
+            pen += MeasureWord(word, type);
+            line.width = pen;
+        }
+        pen += space;
+        text.remove_prefix(std::min(length + 1, text.size()));
+    }
+    return line;
+}
+
+void Typesetter::Draw(unsigned int buffer, const Line& line, const Type& type, int x,
+                      int baseline) {
+    const TextStyle style = ToStyle(type);
+    for (const Line::Word& word : line.words) {
+        canvas.DrawText(buffer, word.text, style, x + word.x, baseline);
+    }
+}
+
+void Typesetter::DrawOutlined(unsigned int buffer, const Line& line, const Type& type,
+                              const Color& outline, int thickness, int x, int baseline) {
+    // The diagonal steps are shorter, so that the outline is as thick at corners as at edges.
+    const int diagonal = std::max(1, thickness * 3 / 4);
+    const int offsets[][2] = {{-thickness, 0},       {thickness, 0},        {0, -thickness},
+                              {0, thickness},        {-diagonal, -diagonal}, {diagonal, -diagonal},
+                              {-diagonal, diagonal}, {diagonal, diagonal}};
+    Type dark = type;
+    dark.color = outline;
+    for (const auto& offset : offsets) {
+        Draw(buffer, line, dark, x + offset[0], baseline + offset[1]);
+    }
+    Draw(buffer, line, type, x, baseline);
+}
+
+int Typesetter::DrawLeft(unsigned int buffer, std::u16string_view text, const Type& type, int x,
+                         int baseline) {
+    const Line line = Arrange(text, type);
+    Draw(buffer, line, type, x, baseline);
+    return line.width;
+}
+
+int Typesetter::DrawRight(unsigned int buffer, std::u16string_view text, const Type& type,
+                          int right, int baseline) {
+    const Line line = Arrange(text, type);
+    Draw(buffer, line, type, right - line.width, baseline);
+    return line.width;
+}
+
+int Typesetter::DrawCentered(unsigned int buffer, std::u16string_view text, const Type& type,
+                             int center, int baseline) {
+    const Line line = Arrange(text, type);
+    Draw(buffer, line, type, center - line.width / 2, baseline);
+    return line.width;
+}
+
+int Typesetter::CenterBaseline(int top, int height, int pixels) {
+    return top + static_cast<int>((height + pixels * capitalHeight) / 2 + 0.5);
+}

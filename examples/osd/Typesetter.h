@@ -1,0 +1,59 @@
+// Lays out lines of text: words, spaces, alignment and sizes.
+#ifndef OSD_TYPESETTER_H
+#define OSD_TYPESETTER_H
+
+#include "Canvas.h"
+
+#include <string_view>
+#include <vector>
+
+/// How a text shall look, in window pixels.
+struct Type {
+    int pixels;
+    Color color;
+    bool bold = false;
+    bool italic = false;
+};
+
+/// A line cut into words, each with its place. It refers to the text that it was made from.
+struct Line {
+    struct Word {
+        std::u16string_view text;
+        int x;
+    };
+    std::vector<Word> words;
+    int width;
+};
+
+class Typesetter {
+public:
+    /// @param standardPixels the size that the font was loaded at
+    Typesetter(Canvas& canvas, int standardPixels);
+
+    Line Arrange(std::u16string_view text, const Type& type);
+
+    void Draw(unsigned int buffer, const Line& line, const Type& type, int x, int baseline);
+    /// The line in `type` with an outline around it, so that it can be read over any picture.
+    void DrawOutlined(unsigned int buffer, const Line& line, const Type& type,
+                      const Color& outline, int thickness, int x, int baseline);
+
+    /// These three return the width of what they drew.
+    int DrawLeft(unsigned int buffer, std::u16string_view text, const Type& type, int x,
+                 int baseline);
+    int DrawRight(unsigned int buffer, std::u16string_view text, const Type& type, int right,
+                  int baseline);
+    int DrawCentered(unsigned int buffer, std::u16string_view text, const Type& type, int center,
+                     int baseline);
+
+    /// The baseline that centres capital letters between `top` and `top + height`.
+    static int CenterBaseline(int top, int height, int pixels);
+
+private:
+    int MeasureWord(std::u16string_view word, const Type& type);
+    TextStyle ToStyle(const Type& type) const;
+
+    Canvas& canvas;
+    int standardPixels;
+};
+
+#endif
