@@ -4,6 +4,8 @@
 #include "gl/Texture.h"
 #include "platform/Log.h"
 
+#include <iterator>
+
 namespace {
 
 constexpr char tag[] = "FBOManager";
@@ -45,6 +47,28 @@ GLuint CreateFramebuffer(GLuint texture) {
     __android_log_print(LogError, tag, "%s",
                         StatusMessage(glCheckFramebufferStatus(GL_FRAMEBUFFER)));
     return framebuffer;
+}
+
+void DeleteObjects(const tagFrameBuffObject& slot) {
+    if (slot.texture != 0) {
+        glDeleteTextures(1, &slot.texture);
+    }
+    if (slot.framebuffer != 0) {
+        glDeleteFramebuffers(1, &slot.framebuffer);
+    }
+}
+
+// The first of the slots from `slot` up to `end` with that handle, or `end`. The mark of a free slot
+// is a number that a client can pass, too: it must find nothing.
+template <typename Slot>
+Slot* FindSlot(unsigned int handle, Slot* slot, Slot* end) {
+    if (handle == ZO_NO_HANDLE) {
+        return end;
+    }
+    while (slot != end && slot->handle != handle) {
+        ++slot;
+    }
+    return slot;
 }
 
 } // namespace
@@ -92,29 +116,30 @@ int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int for
 // are as many numbers as slots, so one is always left.
 unsigned int FBOManager::NewHandle(int slot) const {
     unsigned int handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(slot);
-    for (int i = firstBufferSlot; FindSlot(handle, firstBufferSlot) != nullptr; ++i) {
+    const tagFrameBuffObject* const end = std::end(slots);
+    for (int i = firstBufferSlot; FindSlot(handle, slots + firstBufferSlot, end) != end; ++i) {
         handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(i);
     }
     return handle;
 }
 
 bool FBOManager::GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const {
-    const tagFrameBuffObject* slot = FindSlot(handle, windowSlot);
-    if (slot == nullptr) {
+    const tagFrameBuffObject* slot = FindSlot(handle, std::begin(slots), std::end(slots));
+    if (slot == std::end(slots)) {
         return false;
     }
-    NativeFBOOut(slot, out);
+    *out = *slot;
     return true;
 }
 
 void FBOManager::GLDestoryFBO(unsigned int handle) {
-    const tagFrameBuffObject* found = FindSlot(handle, firstBufferSlot);
-    if (found == nullptr) {
+    tagFrameBuffObject* slot = FindSlot(handle, slots + firstBufferSlot, std::end(slots));
+    if (slot == std::end(slots)) {
         __android_log_print(LogError, tag, "FBO is not exist fboHandleIndex %u\n", handle);
         return;
     }
-    DeleteObjects(*found);
-    InitFBO(&slots[found - slots]);
+    DeleteObjects(*slot);
+    InitFBO(slot);
 }
 
 void FBOManager::ClearFBOTex(const tagFrameBuffObject* fbo, const tagColorRGBA* color) const {
@@ -133,26 +158,4 @@ void FBOManager::NativeFBOOut(const tagFrameBuffObject* in, tagFrameBuffObject* 
 
 void FBOManager::InitFBO(tagFrameBuffObject* fbo) const {
     *fbo = {ZO_NO_HANDLE, 0, 0, 0, 0};
-}
-
-// The mark of a free slot is a number that a client can pass, too: it must find nothing.
-const tagFrameBuffObject* FBOManager::FindSlot(unsigned int handle, int firstSlot) const {
-    if (handle == ZO_NO_HANDLE) {
-        return nullptr;
-    }
-    for (int i = firstSlot; i < slotCount; ++i) {
-        if (slots[i].handle == handle) {
-            return &slots[i];
-        }
-    }
-    return nullptr;
-}
-
-void FBOManager::DeleteObjects(const tagFrameBuffObject& slot) const {
-    if (slot.texture != 0) {
-        glDeleteTextures(1, &slot.texture);
-    }
-    if (slot.framebuffer != 0) {
-        glDeleteFramebuffers(1, &slot.framebuffer);
-    }
 }

@@ -57,9 +57,7 @@ public:
 private:
     static constexpr int slotCount = 16;
 
-    const tagFrameBuffObject* FindSlot(unsigned int handle, int firstSlot) const;
     unsigned int NewHandle(int slot) const;
-    void DeleteObjects(const tagFrameBuffObject& slot) const;
 
     tagFrameBuffObject slots[slotCount];
 };

@@ -4,6 +4,7 @@
 #include "osd/RegionCopy.h"
 #include "osd/TexturedQuad.h"
 #include "surface/Components.h"
+#include "surface/Conversions.h"
 
 namespace {
 
@@ -75,10 +76,10 @@ int ZoGLDrawSurface::ZoBlit(const tagZoBlitInfo* info) noexcept {
     }
     blit.srcRect = {};
     blit.dstRect = {};
-    ScreenCoordToFboCoord(&info->srcRect, &blit.srcRect, static_cast<unsigned int>(blit.src.width),
-                          static_cast<unsigned int>(blit.src.height));
-    ScreenCoordToVCoord(&info->dstRect, &blit.dstRect, static_cast<unsigned int>(blit.dst.width),
-                        static_cast<unsigned int>(blit.dst.height));
+    ToTextureSpace(info->srcRect, static_cast<unsigned int>(blit.src.width),
+                   static_cast<unsigned int>(blit.src.height), &blit.srcRect);
+    ToVertexSpace(info->dstRect, static_cast<unsigned int>(blit.dst.width),
+                  static_cast<unsigned int>(blit.dst.height), &blit.dstRect);
     osdBlit->Blit(&blit);
     return ZO_SUCCESS;
 }

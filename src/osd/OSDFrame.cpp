@@ -3,6 +3,7 @@
 #include "gl/RenderTarget.h"
 #include "osd/TexturedQuad.h"
 #include "surface/Components.h"
+#include "surface/Conversions.h"
 
 OSDFrame::OSDFrame() : program(0), vertexBuffer(0), texLocation(0), coordLocation(0) {}
 
@@ -60,9 +61,9 @@ int ZoGLDrawSurface::ZoDisplayFBO(unsigned int fbo, const tagZoRectInfo* src,
     if (code != ZO_SUCCESS) {
         return code;
     }
-    ScreenCoordToFboCoord(src, &texRect, static_cast<unsigned int>(source.width),
-                          static_cast<unsigned int>(source.height));
-    ScreenCoordToVCoord(dst, &posRect, windowWidth, windowHeight);
+    ToTextureSpace(*src, static_cast<unsigned int>(source.width),
+                   static_cast<unsigned int>(source.height), &texRect);
+    ToVertexSpace(*dst, windowWidth, windowHeight, &posRect);
     osdFrame->DisplayFBO(source.texture, &texRect, &posRect, static_cast<int>(windowWidth),
                          static_cast<int>(windowHeight));
     return ZO_SUCCESS;

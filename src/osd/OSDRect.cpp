@@ -4,6 +4,7 @@
 #include "gl/RendererObjects.h"
 #include "gl/Vertices.h"
 #include "surface/Components.h"
+#include "surface/Conversions.h"
 
 namespace {
 
@@ -87,9 +88,9 @@ int ZoGLDrawSurface::ZoDrawRect(unsigned int fbo, const tagZoRectInfo* rect,
     if (code != ZO_SUCCESS) {
         return code;
     }
-    ScreenCoordToVCoord(rect, &glRect, static_cast<unsigned int>(target.width),
-                        static_cast<unsigned int>(target.height));
-    ConvertGLColor(color, &glColor);
+    ToVertexSpace(*rect, static_cast<unsigned int>(target.width),
+                  static_cast<unsigned int>(target.height), &glRect);
+    glColor = ToGLColor(*color);
     osdRect->DrawRect(&target, &glRect, &glColor);
     return ZO_SUCCESS;
 }

@@ -24,7 +24,7 @@ int ZoGLDrawSurface::EnsurePool() {
 
 // Copies the target that an operation names, or logs why there is none.
 int ZoGLDrawSurface::FindTarget(unsigned int handle, tagFrameBuffObject* target) {
-    int code = EnsurePool();
+    int code = fboManager ? ZO_SUCCESS : CreatePool();
     if (code == ZO_SUCCESS) {
         code = ZeroRecord(target);
     }

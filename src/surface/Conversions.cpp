@@ -1,7 +1,4 @@
-// From the client's pixels and bytes to what GL takes. The float expressions are single precision
-// and evaluated as written, so that every machine puts an edge on the same pixel.
-
-#include "surface/Records.h"
+#include "surface/Conversions.h"
 
 #include <GLES2/gl2.h>
 #include <cstddef>
@@ -35,15 +32,6 @@ static_assert(sizeof(TagFboInfo) == 16);
 static_assert(offsetof(TagFboInfo, width) == 4 && offsetof(TagFboInfo, height) == 8 &&
               offsetof(TagFboInfo, format) == 12);
 
-namespace {
-
-float ConvertChannel(unsigned char channel) {
-    const float value = channel;
-    return channel <= 1 ? value : value / 255.0f;
-}
-
-} // namespace
-
 unsigned int ZoGLDrawSurface::ConvertFormatToGLES(int format) const {
     if (format != ZO_FORMAT_RGBA8888) {
         __android_log_print(LogError, surfaceTag, "Color format is invalid %d\n", format);
@@ -54,43 +42,24 @@ unsigned int ZoGLDrawSurface::ConvertFormatToGLES(int format) const {
 void ZoGLDrawSurface::ScreenCoordToVCoord(const tagZoRectInfo* in, tagRectInfo* out,
                                           unsigned int targetWidth,
                                           unsigned int targetHeight) const {
-    if (targetWidth == 0 || targetHeight == 0) {
-        return;
-    }
-    const float x = static_cast<float>(in->x);
-    const float y = static_cast<float>(in->y);
-    const float width = static_cast<float>(in->width);
-    const float height = static_cast<float>(in->height);
-    out->x = (x + x) / static_cast<float>(targetWidth) + -1.0f;
-    out->y = 1.0f - (y + y) / static_cast<float>(targetHeight);
-    out->width = (width + width) / static_cast<float>(targetWidth);
-    out->height = (height + height) / static_cast<float>(targetHeight);
+    ToVertexSpace(*in, targetWidth, targetHeight, out);
 }
 
 void ZoGLDrawSurface::ScreenCoordToFboCoord(const tagZoRectInfo* in, tagRectInfo* out,
                                             unsigned int targetWidth,
                                             unsigned int targetHeight) const {
-    if (targetWidth == 0 || targetHeight == 0) {
-        return;
-    }
-    out->x = static_cast<float>(in->x) / static_cast<float>(targetWidth);
-    out->y = 1.0f - static_cast<float>(in->y) / static_cast<float>(targetHeight);
-    out->width = static_cast<float>(in->width) / static_cast<float>(targetWidth);
-    out->height = static_cast<float>(in->height) / static_cast<float>(targetHeight);
+    ToTextureSpace(*in, targetWidth, targetHeight, out);
 }
 
 void ZoGLDrawSurface::ConvertGLColor(const tagZoColorRGBA* in, tagColorRGBA* out) const {
-    out->r = ConvertChannel(in->r);
-    out->g = ConvertChannel(in->g);
-    out->b = ConvertChannel(in->b);
-    out->a = ConvertChannel(in->a);
+    *out = ToGLColor(*in);
 }
 
 void ZoGLDrawSurface::SetTextInfo(const tagZoTextInfo* in, tagTextInfo* out) const {
     out->text = in->text;
     out->length = in->length;
-    ConvertGLColor(&in->color, &out->color);
-    ConvertGLColor(&in->reservedColor, &out->reservedColor);
+    out->color = ToGLColor(in->color);
+    out->reservedColor = ToGLColor(in->reservedColor);
     out->reservedByte = in->reservedByte;
     out->fontSize = in->fontSize;
     out->bold = in->bold;
@@ -104,5 +73,5 @@ void ZoGLDrawSurface::SetBitmapInfo(tagBitmapInfo* out, const tagZoBitmapInfo* i
     out->width = static_cast<int>(in->width);
     out->height = static_cast<int>(in->height);
     out->format = ConvertFormatToGLES(in->format);
-    ScreenCoordToVCoord(&in->rect, &out->rect, targetWidth, targetHeight);
+    ToVertexSpace(in->rect, targetWidth, targetHeight, &out->rect);
 }

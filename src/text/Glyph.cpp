@@ -58,6 +58,15 @@ tagGlyphInfo& GlyphMap::operator[](unsigned long code) {
     return table->entries[index].second;
 }
 
+GlyphMap::UnitReader GlyphMap::ReadUnits() const {
+    // Without a table, every unit leads to an entry of 0 of an empty page.
+    static constexpr Page nothing = {};
+    if (!table) {
+        return {nothing.entry, &nothing, nullptr};
+    }
+    return {table->basic, table->pages.data(), table->entries.data()};
+}
+
 GlyphMap::const_iterator GlyphMap::find(unsigned long code) const {
     return {table.get(), table ? table->FindEntry(code) : nullptr};
 }

@@ -59,6 +59,11 @@ public:
     /// The glyph of a code, or null: `find` for inner loops.
     const tagGlyphInfo* Lookup(unsigned long code) const;
 
+    /// What an inner loop needs to look up units of the basic plane; lasts until the map is written
+    /// to or destroyed.
+    class UnitReader;
+    UnitReader ReadUnits() const;
+
     /// Whether both maps still read the same table, so that one look-up answers for both.
     bool SharesTableWith(const GlyphMap& other) const { return table == other.table; }
 
@@ -122,6 +127,24 @@ private:
 
     const Table* table;
     const value_type* entry; ///< null past the last
+};
+
+class GlyphMap::UnitReader {
+public:
+    /// The glyph of a unit, or null.
+    const tagGlyphInfo* Lookup(char16_t unit) const {
+        const std::uint32_t index = pages[pageOf[unit / pageSize]].entry[unit % pageSize];
+        return index == 0 ? nullptr : &entries[index].second;
+    }
+
+private:
+    friend class GlyphMap;
+    UnitReader(const std::uint32_t* basic, const Page* allPages, const value_type* allEntries)
+        : pageOf(basic), pages(allPages), entries(allEntries) {}
+
+    const std::uint32_t* pageOf;
+    const Page* pages;
+    const value_type* entries;
 };
 
 inline std::uint32_t GlyphMap::Table::PageOf(unsigned long code) const {

@@ -14,10 +14,10 @@ constexpr char textTag[] = "OSDText";
 constexpr unsigned int standardFontSize = 40;
 
 /// The glyph of a unit that leaves a mark, or null. A space has a glyph, but leaves none.
-inline const tagGlyphInfo* FindShown(const GlyphMap& standard, char16_t unit) {
+inline const tagGlyphInfo* FindShown(const GlyphMap::UnitReader& standard, char16_t unit) {
     const tagGlyphInfo* glyph = standard.Lookup(unit);
     const bool isShown =
-        glyph != nullptr && glyph->bitmapWidth != 0.0f && glyph->bitmapHeight != 0.0f;
+        glyph != nullptr && glyph->bitmapWidth > 0.0f && glyph->bitmapHeight > 0.0f;
     return isShown ? glyph : nullptr;
 }
 

@@ -57,12 +57,12 @@ bool OSDText::IsDrawStandardFont(const tagTextInfo* info) const {
 }
 
 bool OSDText::FindCharFromMap(char16_t unit) const {
-    return FindShown(fontAtlas->GetGlyphs(), unit) != nullptr;
+    return FindShown(fontAtlas->GetGlyphs().ReadUnits(), unit) != nullptr;
 }
 
 void OSDText::GetTextSize(const tagTextInfo* info, unsigned int* width,
                           unsigned int* height) const {
-    const GlyphMap& standard = fontAtlas->GetGlyphs();
+    const GlyphMap::UnitReader standard = fontAtlas->GetGlyphs().ReadUnits();
     unsigned int total = 0;
     for (unsigned int i = 0; i < info->length; ++i) {
         const tagGlyphInfo* glyph = FindShown(standard, info->text[i]);

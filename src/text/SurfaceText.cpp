@@ -1,6 +1,7 @@
 // The surface's text operations.
 
 #include "surface/Components.h"
+#include "surface/Conversions.h"
 #include "text/GlyphRules.h"
 #include "text/OSDText.h"
 
@@ -111,8 +112,8 @@ int ZoGLDrawSurface::ZoDrawText(unsigned int handle, const tagZoTextInfo* info,
         return code;
     }
     SetTextInfo(info, &text);
-    ScreenCoordToVCoord(rect, &start, static_cast<unsigned int>(target.width),
-                        static_cast<unsigned int>(target.height));
+    ToVertexSpace(*rect, static_cast<unsigned int>(target.width),
+                  static_cast<unsigned int>(target.height), &start);
     code = osdText->DrawText(&target, &text, start.x, start.y);
     return code == ZO_SUCCESS ? ZO_SUCCESS : ToError(code);
 }

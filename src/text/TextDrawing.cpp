@@ -127,10 +127,12 @@ void OSDText::UploadAndDraw(const char16_t* text, unsigned int length, float x, 
 
 size_t OSDText::PlaceGlyphs(const char16_t* text, unsigned int length, float x, float y,
                             Vertex* vertices) {
-    const GlyphMap& standard = fontAtlas->GetGlyphs();
-    const bool isStandard = glyphs.SharesTableWith(standard);
+    const GlyphMap::UnitReader standard = fontAtlas->GetGlyphs().ReadUnits();
+    const bool isStandard = glyphs.SharesTableWith(fontAtlas->GetGlyphs());
     const float texWidth = static_cast<float>(fontTexWidth);
     const float texHeight = static_cast<float>(fontTexHeight);
+    const float pixelX = scaleX;
+    const float pixelY = scaleY;
     size_t count = 0;
     for (unsigned int i = 0; i < length; ++i) {
         const tagGlyphInfo* glyph = FindShown(standard, text[i]);
@@ -144,16 +146,16 @@ size_t OSDText::PlaceGlyphs(const char16_t* text, unsigned int length, float x, 
                 glyph = &glyphs[text[i]];
             }
         }
-        const float left = IsOverhanging(*glyph) ? x : x + glyph->bitmapLeft * scaleX;
-        const float right = left + glyph->bitmapWidth * scaleX;
-        const float top = y + glyph->bitmapTop * scaleY;
-        const float bottom = top - glyph->bitmapHeight * scaleY;
+        const float left = IsOverhanging(*glyph) ? x : x + glyph->bitmapLeft * pixelX;
+        const float right = left + glyph->bitmapWidth * pixelX;
+        const float top = y + glyph->bitmapTop * pixelY;
+        const float bottom = top - glyph->bitmapHeight * pixelY;
         const float s1 = glyph->texX + glyph->bitmapWidth / texWidth;
         const float t1 = glyph->texY + glyph->bitmapHeight / texHeight;
         WriteGlyphQuad(left, right, top, bottom, *glyph, s1, t1, vertices + count);
         count += verticesPerUnit;
-        x += glyph->advanceX * scaleX;
-        y += glyph->advanceY * scaleY;
+        x += glyph->advanceX * pixelX;
+        y += glyph->advanceY * pixelY;
     }
     return count;
 }
