@@ -20,7 +20,7 @@ int CornerInset(int radius, int row) {
 } // namespace
 
 Stage::Stage(Canvas& target, int width, int height)
-    : canvas(target), scale(ChooseScale(width, height)),
+    : canvas(target), scale(ChooseScale(width, height)), whole{0, 0, width * scale, height * scale},
       buffer(canvas.CreateBuffer(width * scale, height * scale)),
       half(scale == 4 ? canvas.CreateBuffer(width * 2, height * 2) : ZO_NO_HANDLE) {}
 
@@ -55,8 +55,16 @@ void Stage::FillRounded(const Rect& rect, int radius, const Color& color) {
     ForEachStrip(rect, radius, [&](const Rect& strip) { FillFine(strip, color); });
 }
 
+void Stage::FillDisc(const Rect& square, const Color& top, const Color& bottom) {
+    const Rect fine = square.Times(scale);
+    ForEachStrip(square, square.width / 2, [&](const Rect& strip) {
+        const double share = (strip.y - fine.y + 0.5) / fine.height;
+        FillFine(strip, Mix(top, bottom, share));
+    });
+}
+
 void Stage::Stretch(unsigned int from, const Rect& source) {
-    canvas.Copy(from, source, buffer, Rect{0, 0, 0, 0});
+    canvas.Copy(from, source, buffer, whole);
 }
 
 void Stage::CopyRounded(unsigned int from, const Rect& rect, int radius) {

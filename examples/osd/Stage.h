@@ -21,6 +21,8 @@ public:
     // Rectangles and radii in pixels of the picture.
     void Fill(const Rect& rect, const Color& color);
     void FillRounded(const Rect& rect, int radius, const Color& color);
+    /// A disc whose colour changes from its top to its bottom.
+    void FillDisc(const Rect& square, const Color& top, const Color& bottom);
     /// Stretches a whole buffer over the stage.
     void Stretch(unsigned int from, const Rect& source);
     /// The same region of a buffer of the picture's size, with round corners.
@@ -37,6 +39,7 @@ private:
 
     Canvas& canvas;
     int scale;
+    Rect whole;
     unsigned int buffer;
     unsigned int half;
 };

@@ -9,7 +9,7 @@ namespace {
 constexpr unsigned int standardFontSize = 40;
 
 // Shares of the text size that suit most faces.
-constexpr double spaceWidth = 0.30;
+constexpr double spaceWidth = 0.32;
 constexpr double capitalHeight = 0.73;
 
 } // namespace
@@ -67,7 +67,7 @@ void Typesetter::DrawOutlined(unsigned int buffer, const Line& line, const Type&
                               const Color& outline, int thickness, int x, int baseline) {
     // The diagonal steps are shorter, so that the outline is as thick at corners as at edges.
     const int diagonal = std::max(1, thickness * 3 / 4);
-    const int offsets[][2] = {{-thickness, 0},       {thickness, 0},        {0, -thickness},
+    const int offsets[][2] = {{-thickness, 0},       {thickness, 0},         {0, -thickness},
                               {0, thickness},        {-diagonal, -diagonal}, {diagonal, -diagonal},
                               {-diagonal, diagonal}, {diagonal, diagonal}};
     Type dark = type;

@@ -34,8 +34,8 @@ public:
 
     void Draw(unsigned int buffer, const Line& line, const Type& type, int x, int baseline);
     /// The line in `type` with an outline around it, so that it can be read over any picture.
-    void DrawOutlined(unsigned int buffer, const Line& line, const Type& type,
-                      const Color& outline, int thickness, int x, int baseline);
+    void DrawOutlined(unsigned int buffer, const Line& line, const Type& type, const Color& outline,
+                      int thickness, int x, int baseline);
 
     /// These three return the width of what they drew.
     int DrawLeft(unsigned int buffer, std::u16string_view text, const Type& type, int x,

@@ -1,0 +1,140 @@
+#include "Menu.h"
+
+#include "Palette.h"
+
+#include <string>
+
+namespace {
+
+struct Channel {
+    std::u16string_view name;
+    std::u16string_view language;
+};
+
+constexpr Channel channels[] = {
+    {u"Hafenlicht", u"DE"},    {u"Fjällvind", u"SV"},      {u"Śnieżna Góra", u"PL"},
+    {u"Marée Haute", u"FR"},   {u"Άνεμος Νήσων", u"EL"},   {u"Тихая Река", u"RU"},
+    {u"Niño Vecino", u"ES"},   {u"Kék Őszibarack", u"HU"}, {u"Зоряна Їжачка", u"UK"},
+    {u"Žlutá Řeka", u"CS"},    {u"Çınar Altı", u"TR"},     {u"Φως & Σκιά", u"EL"},
+    {u"Orizzonte Più", u"IT"}, {u"Þoka og Ís", u"IS"},     {u"Северен Бряг", u"BG"},
+    {u"Pão de Manhã", u"PT"},  {u"Smørblomst", u"DA"},     {u"Ține Minte", u"RO"},
+};
+constexpr int channelCount = static_cast<int>(sizeof(channels) / sizeof(channels[0]));
+constexpr int firstNumber = 101;
+constexpr int highlightedRow = 3;
+
+std::u16string ToText(int number) {
+    std::u16string text;
+    for (; number > 0; number /= 10) {
+        text.insert(text.begin(), static_cast<char16_t>(u'0' + number % 10));
+    }
+    return text;
+}
+
+} // namespace
+
+Menu::Menu(Canvas& target, Typesetter& setter, const Layout& where)
+    : canvas(target), typesetter(setter), layout(where), first(0), offset(0), rows(ZO_NO_HANDLE),
+      coming(ZO_NO_HANDLE), pill(ZO_NO_HANDLE), chosen(ZO_NO_HANDLE), thumb(ZO_NO_HANDLE) {}
+
+void Menu::CreateBuffers() {
+    rows = canvas.CreateBuffer(layout.list.width, layout.list.height);
+    coming = canvas.CreateBuffer(layout.list.width, layout.rowHeight);
+    pill = canvas.CreateBuffer(layout.list.width, layout.rowHeight);
+    chosen = canvas.CreateBuffer(layout.list.width, layout.rowHeight);
+    thumb = canvas.CreateBuffer(GetThumb().width, GetThumb().height);
+}
+
+void Menu::Paint(Stage& stage) {
+    first = 0;
+    offset = 0;
+    const Rect row{0, 0, layout.list.width, layout.rowHeight};
+    stage.Fill(row, Palette::well);
+    stage.FillRounded(row, layout.Scale(10), Palette::accent);
+    stage.ReduceTo(pill, row.width, row.height);
+    const Rect handle{0, 0, GetThumb().width, GetThumb().height};
+    stage.Fill(handle, Palette::track);
+    stage.FillRounded(handle, handle.width / 2, Palette::quiet);
+    stage.ReduceTo(thumb, handle.width, handle.height);
+
+    canvas.Fill(rows, {0, 0, layout.list.width, layout.list.height}, Palette::well);
+    for (int i = 0; i < layout.rowCount; ++i) {
+        PaintRow(rows, i * layout.rowHeight, i, false);
+    }
+    PaintHighlight();
+}
+
+void Menu::PaintHeader(unsigned int buffer) {
+    const int baseline =
+        Typesetter::CenterBaseline(layout.menu.y, layout.list.y - layout.menu.y, layout.Scale(26));
+    const Type title{layout.Scale(26), Palette::text, true, false};
+    typesetter.DrawLeft(buffer, u"Channels", title, layout.list.x + layout.Scale(16), baseline);
+    const Type note{layout.Scale(18), Palette::quiet, false, true};
+    typesetter.DrawRight(buffer, u"all languages", note, layout.list.Right() - layout.Scale(14),
+                         baseline);
+}
+
+void Menu::PaintRow(unsigned int buffer, int top, int index, bool isHighlighted) {
+    const int channel = index % channelCount;
+    const int pixels = layout.Scale(22);
+    const int baseline = Typesetter::CenterBaseline(top, layout.rowHeight, pixels);
+    const Color strong = isHighlighted ? Palette::ink : Palette::text;
+    const Color weak = isHighlighted ? Palette::ink : Palette::quiet;
+    typesetter.DrawRight(buffer, ToText(firstNumber + channel), {pixels, weak}, layout.Scale(58),
+                         baseline);
+    typesetter.DrawLeft(buffer, channels[channel].name, {pixels, strong, isHighlighted, false},
+                        layout.Scale(76), baseline);
+    const int small = layout.Scale(17);
+    typesetter.DrawRight(buffer, channels[channel].language, {small, weak},
+                         layout.list.width - layout.Scale(14), baseline);
+}
+
+void Menu::PaintHighlight() {
+    const Rect row{0, 0, layout.list.width, layout.rowHeight};
+    canvas.Copy(pill, row, chosen, row);
+    PaintRow(chosen, 0, first + std::min(highlightedRow, layout.rowCount - 1), true);
+}
+
+// Text in this size is costly, so the row is written once and then shown bit by bit.
+void Menu::BringNextRow() {
+    canvas.Fill(coming, {0, 0, layout.list.width, layout.rowHeight}, Palette::well);
+    PaintRow(coming, 0, first + layout.rowCount, false);
+}
+
+void Menu::Scroll(int pixels) {
+    if (offset == 0) {
+        BringNextRow();
+    }
+    const int step = std::min(pixels, layout.rowHeight - offset);
+    const int width = layout.list.width;
+    const int rest = layout.list.height - step;
+    canvas.Copy(rows, {0, step, width, rest}, rows, {0, 0, width, rest});
+    canvas.Copy(coming, {0, offset, width, step}, rows, {0, rest, width, step});
+    offset += step;
+    if (offset == layout.rowHeight) {
+        offset = 0;
+        first = (first + 1) % channelCount;
+        PaintHighlight();
+    }
+}
+
+void Menu::Compose(unsigned int frame) {
+    const Rect list{0, 0, layout.list.width, layout.list.height};
+    canvas.Copy(rows, list, frame, layout.list);
+    const Rect row{0, 0, layout.list.width, layout.rowHeight};
+    const int slot = std::min(highlightedRow, layout.rowCount - 1);
+    canvas.Copy(chosen, row, frame,
+                {layout.list.x, layout.list.y + slot * layout.rowHeight, row.width, row.height});
+
+    const Rect handle = GetThumb();
+    canvas.Copy(thumb, {0, 0, handle.width, handle.height}, frame, handle);
+}
+
+// The list begins anew at its end, so the last place is the one before the beginning.
+Rect Menu::GetThumb() const {
+    const Rect& bar = layout.scrollbar;
+    const int length = bar.height * layout.rowCount / (channelCount + layout.rowCount);
+    const int place = (first * layout.rowHeight + offset) * (bar.height - length) /
+                      (channelCount * layout.rowHeight);
+    return {bar.x, bar.y + place, bar.width, length};
+}

@@ -1,0 +1,175 @@
+#include "Scene.h"
+
+#include "Logo.h"
+#include "Palette.h"
+
+namespace {
+
+// The picture's alpha: over the window's black it is dimmed to this share of its brightness, as a
+// half-transparent black background of the display would dim a video.
+constexpr int pictureAlpha = 200;
+
+// How much of a panel is its own colour; the rest is the picture behind it. Panels are opaque to
+// the window, since text lowers the alpha at its edges: over opaque ground that shows least.
+constexpr double panelShare = 0.72;
+
+constexpr double programmeMinutes = 75;
+constexpr int startMinute = 21 * 60 + 15;
+
+constexpr int volumeSteps = 20;
+constexpr int volumeLevel = 13;
+
+constexpr std::u16string_view subtitleTexts[2] = {u"The ferry is late again.",
+                                                  u"Time enough for the lighthouse."};
+
+} // namespace
+
+Scene::Scene(Canvas& target, Typesetter& setter, const Layout& where)
+    : canvas(target), typesetter(setter), layout(where), landscape(where.window),
+      menu(target, setter, where), subtitles{}, glass(ZO_NO_HANDLE), backdrop(ZO_NO_HANDLE),
+      frame(ZO_NO_HANDLE) {}
+
+void Scene::CreateBuffers() {
+    landscape.Create(canvas);
+    menu.CreateBuffers();
+    glass = canvas.CreateBuffer(layout.window.width, layout.window.height);
+    backdrop = canvas.CreateBuffer(layout.window.width, layout.window.height);
+    frame = canvas.CreateBuffer(layout.window.width, layout.window.height);
+}
+
+void Scene::Paint() {
+    landscape.PaintFrosted(canvas, glass, Palette::glass, panelShare);
+    Stage stage(canvas, layout.window.width, layout.window.height);
+    menu.Paint(stage);
+    landscape.Paint(canvas, stage, pictureAlpha);
+    PaintPanels(stage);
+    stage.ReduceTo(backdrop, layout.window.width, layout.window.height);
+    PaintTexts();
+    ArrangeSubtitles();
+}
+
+void Scene::PaintPanels(Stage& stage) {
+    for (const Rect& panel : {layout.banner, layout.menu, layout.volume}) {
+        stage.FillRounded(panel, layout.radius, Palette::rim);
+        stage.CopyRounded(glass, panel.Inset(1), layout.radius - 1);
+    }
+    const Rect& list = layout.list;
+    const int lip = layout.Scale(8);
+    stage.FillRounded({list.x, list.y - lip, list.width, list.height + 2 * lip}, layout.Scale(12),
+                      Palette::well);
+    const Rect& bar = layout.scrollbar;
+    stage.FillRounded(bar, bar.width / 2, Palette::track);
+    PaintProgressTrack(stage);
+    Logo::Paint(stage, layout.logo);
+    PaintVolumeIcon(stage);
+}
+
+// With the round end of the part that is done, which the frames then lengthen.
+void Scene::PaintProgressTrack(Stage& stage) {
+    const Rect& bar = layout.progress;
+    stage.FillRounded(bar, bar.height / 2, Palette::track);
+    stage.FillRounded({bar.x, bar.y, bar.height, bar.height}, bar.height / 2, Palette::accent);
+}
+
+// A loudspeaker: a box, a cone that opens to the right, and two bars for its sound.
+void Scene::PaintVolumeIcon(Stage& stage) {
+    const Rect fine = layout.volumeIcon.Times(stage.GetScale());
+    const int middle = fine.y + fine.height / 2;
+    const int box = fine.width / 5;
+    const int cone = fine.width * 11 / 20;
+    stage.FillFine({fine.x, middle - box, box + 1, 2 * box}, Palette::text);
+    for (int x = box; x < cone; ++x) {
+        const int half = box + (x - box) * (fine.height / 2 - box) / (cone - box);
+        stage.FillFine({fine.x + x, middle - half, 1, 2 * half}, Palette::text);
+    }
+    const Rect& icon = layout.volumeIcon;
+    const int thickness = layout.Scale(3);
+    const int heights[] = {icon.height * 2 / 5, icon.height * 4 / 5};
+    for (int i = 0; i < 2; ++i) {
+        const Rect bar{icon.x + icon.width * (14 + 5 * i) / 20,
+                       icon.y + (icon.height - heights[i]) / 2, thickness, heights[i]};
+        stage.FillRounded(bar, thickness / 2, Palette::text);
+    }
+}
+
+void Scene::PaintTexts() {
+    menu.PaintHeader(backdrop);
+
+    const int* line = layout.bannerLine;
+    const Type number{layout.Scale(36), Palette::accent, true, false};
+    const int width = typesetter.DrawLeft(backdrop, u"104", number, layout.bannerLeft, line[0]);
+    const Type name{layout.Scale(36), Palette::text, true, false};
+    typesetter.DrawLeft(backdrop, u"Marée Haute", name,
+                        layout.bannerLeft + width + layout.Scale(20), line[0]);
+
+    const Type title{layout.Scale(24), Palette::text};
+    typesetter.DrawLeft(backdrop, u"Les Îles du Nord · Épisode 3", title, layout.bannerLeft,
+                        line[1]);
+    typesetter.DrawRight(backdrop, u"21:15 – 22:30", title, layout.bannerRight, line[1]);
+
+    const Type detail{layout.Scale(19), Palette::quiet, false, true};
+    typesetter.DrawLeft(backdrop, u"Phares, embruns et longues soirées d’été le long de la côte",
+                        detail, layout.bannerLeft, line[2]);
+    typesetter.DrawRight(backdrop, u"then: Météo des côtes", detail, layout.bannerRight, line[2]);
+
+    const Type level{layout.Scale(24), Palette::text, true, false};
+    typesetter.DrawRight(
+        backdrop, u"65", level, layout.volume.Right() - layout.Scale(20),
+        Typesetter::CenterBaseline(layout.volume.y, layout.volume.height, level.pixels));
+}
+
+void Scene::ArrangeSubtitles() {
+    for (int i = 0; i < 2; ++i) {
+        subtitles[i] = typesetter.Arrange(subtitleTexts[i], {layout.standardText, Palette::text});
+    }
+}
+
+void Scene::DrawFrame(double minutes) {
+    canvas.Copy(backdrop, layout.window, frame, layout.window);
+    menu.Compose(frame);
+    DrawProgress(minutes);
+    DrawClock(minutes);
+    DrawVolume();
+    DrawSubtitles();
+    canvas.Present(frame, layout.window);
+}
+
+void Scene::DrawClock(double minutes) {
+    const int now = startMinute + static_cast<int>(minutes);
+    const int digits[] = {now / 600 % 10, now / 60 % 10, now % 60 / 10, now % 10};
+    std::u16string text = u"00:00";
+    const size_t places[] = {0, 1, 3, 4};
+    for (int i = 0; i < 4; ++i) {
+        text[places[i]] = static_cast<char16_t>(u'0' + digits[i]);
+    }
+    const Type type{layout.standardText, Palette::text};
+    typesetter.DrawRight(frame, text, type, layout.bannerRight, layout.bannerLine[0]);
+}
+
+void Scene::DrawProgress(double minutes) {
+    const Rect& bar = layout.progress;
+    const int start = bar.height / 2;
+    const double share = std::min(minutes / programmeMinutes, 1.0);
+    const int length = static_cast<int>((bar.width - 2 * start) * share);
+    canvas.Fill(frame, {bar.x + start, bar.y, length, bar.height}, Palette::accent);
+}
+
+void Scene::DrawVolume() {
+    const Rect& bar = layout.volumeBar;
+    const int gap = layout.Scale(4);
+    for (int i = 0; i < volumeSteps; ++i) {
+        const int left = bar.x + bar.width * i / volumeSteps;
+        const int right = bar.x + bar.width * (i + 1) / volumeSteps - gap;
+        canvas.Fill(frame, {left, bar.y, std::max(1, right - left), bar.height},
+                    i < volumeLevel ? Palette::accent : Palette::track);
+    }
+}
+
+void Scene::DrawSubtitles() {
+    const Type type{layout.standardText, Palette::text};
+    for (int i = 0; i < 2; ++i) {
+        typesetter.DrawOutlined(frame, subtitles[i], type, Palette::ink, layout.Scale(3),
+                                layout.subtitleCenter - subtitles[i].width / 2,
+                                layout.subtitleLine[i]);
+    }
+}
