@@ -56,7 +56,7 @@ enum ZoResult : int {
     ZO_FONT_ATLAS_EMPTY = 32,   ///< nothing of the font or text leaves a mark, or no font is open
     ZO_FAILURE = 100,           ///< general failure; the log says which
     ZO_INVALID_PARAM = 101,  ///< a null pointer, an unknown handle, or a target of size 0 for text
-    ZO_NO_FBO_MANAGER = 102, ///< a buffer was destroyed before any existed
+    ZO_NO_FBO_MANAGER = 102, ///< a buffer was destroyed while there is no pool of buffers
 };
 
 /// The components that `ZoGLDrawSurface::Init` creates, to be or-ed together.
@@ -203,7 +203,8 @@ public:
 
     /// Destroys an off-screen buffer. An unknown handle is logged and changes nothing; the window
     /// handle counts as unknown.
-    /// @return ZO_SUCCESS, or ZO_NO_FBO_MANAGER when no buffer was ever created
+    /// @return ZO_SUCCESS, or ZO_NO_FBO_MANAGER while there is no pool of buffers, that is, mostly,
+    ///     while no window is bound; the buffer comes back with the next binding then
     int ZoDestoryGLFBO(unsigned int handle) noexcept;
 
     /// Fills a rectangle of a target. Colour and alpha replace what was there: alpha 0 erases.

@@ -27,20 +27,26 @@ int OSDBlit::Init() {
 }
 
 void OSDBlit::Blit(const tagBlitInfo* info) const {
-    RegionCopy source = {info->src.texture, info->srcRect};
+    GLuint texture = info->src.texture;
+    const tagRectInfo* texRect = &info->srcRect;
+    RegionCopy copy;
     const bool isCopied = IsWithinOneBuffer(*info);
-    if (isCopied && !CopyRegion(info->src, info->srcRect, &source)) {
-        __android_log_print(LogError, tag, "Create texture fail\n");
-        return;
+    if (isCopied) {
+        if (!CopyRegion(info->src, info->srcRect, &copy)) {
+            __android_log_print(LogError, tag, "Create texture fail\n");
+            return;
+        }
+        texture = copy.texture;
+        texRect = &copy.texRect;
     }
     BindTarget(info->dst.framebuffer, info->dst.width, info->dst.height);
     glUseProgram(program);
-    BindSource(source.texture, texLocation);
-    BlitByDrawing(&source.texRect, &info->dstRect);
+    BindSource(texture, texLocation);
+    BlitByDrawing(texRect, &info->dstRect);
     glBindTexture(GL_TEXTURE_2D, 0);
     UnbindTarget();
     if (isCopied) {
-        glDeleteTextures(1, &source.texture);
+        glDeleteTextures(1, &texture);
     }
 }
 

@@ -28,11 +28,11 @@ int ZoGLDrawSurface::FindTarget(unsigned int handle, tagFrameBuffObject* target)
     if (code == ZO_SUCCESS) {
         code = ZeroRecord(target);
     }
-    if (code == ZO_SUCCESS && !fboManager->GetFBOInst(handle, target)) {
-        __android_log_print(LogError, surfaceTag, "There is not the fbo\n");
-        code = ZO_INVALID_PARAM;
+    if (code != ZO_SUCCESS || fboManager->GetFBOInst(handle, target)) {
+        return code;
     }
-    return code;
+    __android_log_print(LogError, surfaceTag, "There is not the fbo\n");
+    return ZO_INVALID_PARAM;
 }
 
 int ZoGLDrawSurface::ZoCreateGLFBO(unsigned int* handle, unsigned int width, unsigned int height,

@@ -29,9 +29,20 @@ void Upload(unsigned int x, unsigned int y, const FT_Bitmap& bitmap, const void*
                     GL_UNSIGNED_BYTE, coverage);
 }
 
+// Whether FreeType has to turn the bitmap into 8-bit coverage first.
+bool IsOtherMode(const FT_Bitmap& bitmap) {
+    return bitmap.pixel_mode == FT_PIXEL_MODE_MONO || bitmap.pixel_mode == FT_PIXEL_MODE_GRAY2 ||
+           bitmap.pixel_mode == FT_PIXEL_MODE_GRAY4 || bitmap.pixel_mode == FT_PIXEL_MODE_BGRA;
+}
+
+bool HasFewerGrays(const FT_Bitmap& bitmap) {
+    return bitmap.num_grays > 1 && bitmap.num_grays < 256;
+}
+
+// A bitmap that states no pitch has no padding.
 bool IsTightCoverage(const FT_Bitmap& bitmap) {
-    return bitmap.pixel_mode == FT_PIXEL_MODE_GRAY && bitmap.num_grays == 256 &&
-           bitmap.pitch == static_cast<int>(bitmap.width);
+    return !IsOtherMode(bitmap) && !HasFewerGrays(bitmap) &&
+           (bitmap.pitch == static_cast<int>(bitmap.width) || bitmap.pitch == 0);
 }
 
 // Copies 8-bit rows, top row first (a negative pitch means that the buffer starts with the bottom
@@ -45,8 +56,8 @@ std::vector<unsigned char> PackRows(const FT_Bitmap& bitmap) {
         const size_t stored = bitmap.pitch < 0 ? rows - 1 - row : row;
         memcpy(&packed[row * width], bitmap.buffer + stored * stride, width);
     }
-    const unsigned int whitest = bitmap.num_grays > 1 ? bitmap.num_grays - 1U : 1U;
-    if (whitest < 255) {
+    if (HasFewerGrays(bitmap)) {
+        const unsigned int whitest = bitmap.num_grays - 1U;
         for (unsigned char& value : packed) {
             value =
                 static_cast<unsigned char>(std::min<unsigned int>(value, whitest) * 255 / whitest);
@@ -119,7 +130,7 @@ bool UploadGlyph(FT_GlyphSlot glyph, unsigned int x, unsigned int y) {
         Upload(x, y, bitmap, bitmap.buffer);
         return true;
     }
-    if (bitmap.pixel_mode == FT_PIXEL_MODE_GRAY) {
+    if (!IsOtherMode(bitmap)) {
         Upload(x, y, bitmap, PackRows(bitmap).data());
         return true;
     }
