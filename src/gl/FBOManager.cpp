@@ -32,8 +32,7 @@ const char* StatusMessage(GLenum status) {
 GLuint CreateTexture(int width, int height, int format) {
     const GLuint texture = GenerateTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, texture);
-    glTexImage2D(GL_TEXTURE_2D, 0, format, width, height, 0, static_cast<GLenum>(format),
-                 GL_UNSIGNED_BYTE, nullptr);
+    AllocateTexture(static_cast<GLenum>(format), width, height, nullptr);
     FilterLinear();
     ClampToEdge();
     return texture;

@@ -4,6 +4,7 @@
 #define ZOGLES_GL_TEXTURE_H
 
 #include <GLES2/gl2.h>
+#include <algorithm>
 
 /// Selects a texture unit and generates a texture name to bind there.
 /// @return the name, 0 when the driver has none left
@@ -12,6 +13,16 @@ inline GLuint GenerateTexture(GLenum unit) {
     glActiveTexture(unit);
     glGenTextures(1, &texture);
     return texture;
+}
+
+/// Gives the bound texture its storage, one byte a channel.
+/// @param pixels in rows from t = 0 upwards, or null for storage without defined content
+inline void AllocateTexture(GLenum format, GLsizei width, GLsizei height, const void* pixels) {
+    // Drivers refuse a size past their limit, but some crash over one past 2^30. No driver's limit
+    // is near this one, so what is cut here is refused all the same.
+    constexpr GLsizei beyondAllLimits = 1 << 20;
+    glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(format), std::min(width, beyondAllLimits),
+                 std::min(height, beyondAllLimits), 0, format, GL_UNSIGNED_BYTE, pixels);
 }
 
 inline void FilterLinear() {

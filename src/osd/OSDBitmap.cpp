@@ -20,8 +20,7 @@ int OSDBitmap::Init() {
 void OSDBitmap::CreateTexture(const tagBitmapInfo* info) {
     texture = GenerateTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, texture);
-    glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(info->format), info->width, info->height, 0,
-                 info->format, GL_UNSIGNED_BYTE, info->data);
+    AllocateTexture(info->format, info->width, info->height, info->data);
     // The glyph atlases leave 1 behind. Rows of 4-byte pixels are read alike under both, so it is
     // enough that the default is back afterwards.
     glPixelStorei(GL_UNPACK_ALIGNMENT, 4);

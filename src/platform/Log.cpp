@@ -56,7 +56,7 @@ extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, .
     if (!filter.Shows(prio, shownTag)) {
         return 0;
     }
-    char text[maxMessage];
+    char text[maxMessage + 1];
     va_list args;
     va_start(args, fmt);
     const int length = vsnprintf(text, sizeof(text), fmt, args);

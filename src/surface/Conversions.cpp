@@ -25,6 +25,7 @@ static_assert(offsetof(tagZoBitmapInfo, format) == sizeof(void*) &&
               offsetof(tagZoBitmapInfo, width) == sizeof(void*) + 12 &&
               offsetof(tagZoBitmapInfo, height) == sizeof(void*) + 16 &&
               offsetof(tagZoBitmapInfo, rect) == sizeof(void*) + 20);
+static_assert(sizeof(tagZoBitmapInfo) == (sizeof(void*) == 8 ? 48 : 40));
 static_assert(sizeof(tagZoBlitInfo) == 40);
 static_assert(offsetof(tagZoBlitInfo, dstHandle) == 4 && offsetof(tagZoBlitInfo, srcRect) == 8 &&
               offsetof(tagZoBlitInfo, dstRect) == 24);

@@ -57,7 +57,7 @@ public:
     void clear() { table.reset(); }
 
     /// The glyph of a code, or null: `find` for inner loops.
-    const tagGlyphInfo* Lookup(unsigned long code) const;
+    inline const tagGlyphInfo* Lookup(unsigned long code) const;
 
     /// What an inner loop needs to look up units of the basic plane; lasts until the map is written
     /// to or destroyed.
@@ -71,11 +71,11 @@ private:
     static constexpr unsigned long pageSize = 256;
     static constexpr unsigned long basicPages = 256;
 
-    struct Page {
+    struct __attribute__((visibility("hidden"))) Page {
         std::uint32_t entry[pageSize]; ///< index into the entries, 0 for none
     };
 
-    struct Table {
+    struct __attribute__((visibility("hidden"))) Table {
         Table();
 
         const value_type* FindEntry(unsigned long code) const;

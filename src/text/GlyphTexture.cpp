@@ -110,8 +110,7 @@ GLuint CreateGlyphTexture(const char* tag, GLenum unit, unsigned int width, unsi
         return 0;
     }
     glBindTexture(GL_TEXTURE_2D, texture);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_ALPHA, static_cast<GLsizei>(width),
-                 static_cast<GLsizei>(height), 0, GL_ALPHA, GL_UNSIGNED_BYTE, nullptr);
+    AllocateTexture(GL_ALPHA, static_cast<GLsizei>(width), static_cast<GLsizei>(height), nullptr);
     if (IsRefusedAsTooLarge(width, height)) {
         __android_log_print(LogError, tag, "Create texture fail\n");
         glBindTexture(GL_TEXTURE_2D, 0);

@@ -74,6 +74,8 @@ struct State {
     std::optional<int> framebufferStatus; ///< for glCheckFramebufferStatus
     std::optional<int> maxTextureSize;    ///< for glGetIntegerv
     std::optional<int> infoLogLength;     ///< for glGetShaderiv and glGetProgramiv
+    std::optional<int> glError;           ///< for glGetError
+    std::string fontFile;                 ///< for FT_New_Face, unless empty
 
     std::function<FT_Error(FT_Face, FT_ULong, FT_Int32)> loadChar;
     std::function<FT_ULong(FT_Face, FT_UInt*)> firstChar;

@@ -2,13 +2,22 @@
 
 #include <EGL/egl.h>
 
+namespace {
+
+// Attributes are worth seeing: they go behind the call.
+void NoteAttributes(const EGLint* list) {
+    if (harness::Current().isRecording) {
+        for (; list != nullptr && *list != EGL_NONE; ++list) {
+            harness::Current().calls.back() += ' ' + std::to_string(*list);
+        }
+    }
+}
+
+} // namespace
+
 PASS_ON(EGLDisplay, eglGetDisplay, (EGLNativeDisplayType native), (native))
 PASS_ON(EGLBoolean, eglInitialize, (EGLDisplay display, EGLint* major, EGLint* minor),
         (display, major, minor))
-PASS_ON(EGLBoolean, eglChooseConfig,
-        (EGLDisplay display, const EGLint* attributes, EGLConfig* configs, EGLint size,
-         EGLint* count),
-        (display, attributes, configs, size, count))
 PASS_ON(EGLint, eglGetError, (), ())
 PASS_ON(EGLBoolean, eglMakeCurrent,
         (EGLDisplay display, EGLSurface draw, EGLSurface read, EGLContext context),
@@ -20,9 +29,17 @@ PASS_ON(EGLBoolean, eglReleaseThread, (), ())
 PASS_ON(EGLBoolean, eglSwapBuffers, (EGLDisplay display, EGLSurface surface), (display, surface))
 PASS_ON(EGLBoolean, eglTerminate, (EGLDisplay display), (display))
 
+extern "C" EGLBoolean eglChooseConfig(EGLDisplay display, const EGLint* attributes,
+                                      EGLConfig* configs, EGLint size, EGLint* count) {
+    INTERPOSE(eglChooseConfig, (display, attributes, configs, size, count));
+    NoteAttributes(attributes);
+    return isFailing ? EGL_FALSE : real(display, attributes, configs, size, count);
+}
+
 extern "C" EGLContext eglCreateContext(EGLDisplay display, EGLConfig config, EGLContext share,
                                        const EGLint* attributes) {
     INTERPOSE(eglCreateContext, (display, config, share, attributes));
+    NoteAttributes(attributes);
     EGLContext context = isFailing ? EGL_NO_CONTEXT : real(display, config, share, attributes);
     if (context != EGL_NO_CONTEXT) {
         harness::AddLive("context", reinterpret_cast<size_t>(context));

@@ -65,7 +65,9 @@ extern "C" FT_Error FT_Done_FreeType(FT_Library library) {
 extern "C" FT_Error FT_New_Face(FT_Library library, const char* path, FT_Long index,
                                 FT_Face* face) {
     INTERPOSE(FT_New_Face, (library, path, index, face));
-    const FT_Error error = isFailing ? injectedError : real(library, path, index, face);
+    const std::string& instead = harness::Current().fontFile;
+    const char* opened = instead.empty() ? path : instead.c_str();
+    const FT_Error error = isFailing ? injectedError : real(library, opened, index, face);
     if (error == 0) {
         harness::AddLive("FreeType face", reinterpret_cast<size_t>(*face));
     }

@@ -25,7 +25,6 @@ PASS_ON(void, glEnableVertexAttribArray, (GLuint index), (index))
 PASS_ON(void, glFramebufferTexture2D,
         (GLenum target, GLenum attachment, GLenum texTarget, GLuint texture, GLint level),
         (target, attachment, texTarget, texture, level))
-PASS_ON(GLenum, glGetError, (), ())
 PASS_ON(void, glGetProgramInfoLog, (GLuint program, GLsizei size, GLsizei* length, GLchar* text),
         (program, size, length, text))
 PASS_ON(void, glGetShaderInfoLog, (GLuint shader, GLsizei size, GLsizei* length, GLchar* text),
@@ -75,6 +74,12 @@ extern "C" void glShaderSource(GLuint shader, GLsizei count, const GLchar* const
     harness::Current().shaderStrings.insert(harness::Current().shaderStrings.end(), strings,
                                             strings + count);
     real(shader, count, strings, lengths);
+}
+
+extern "C" GLenum glGetError() {
+    INTERPOSE(glGetError, ());
+    const GLenum error = real();
+    return static_cast<GLenum>(harness::Current().glError.value_or(static_cast<int>(error)));
 }
 
 extern "C" GLenum glCheckFramebufferStatus(GLenum target) {

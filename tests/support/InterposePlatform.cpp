@@ -20,3 +20,8 @@ extern "C" int memset_s(void* dest, size_t destSize, int value, size_t count) {
     constexpr int refused = 34;
     return isFailing ? refused : real(dest, destSize, value, count);
 }
+
+// Drivers stay loaded, so that the leak checker knows a leak of theirs by the driver's name.
+extern "C" int dlclose(void*) {
+    return 0;
+}

@@ -1,0 +1,205 @@
+#include "support/SurfaceFixture.h"
+
+using harness::Call;
+using Calls = std::vector<std::string>;
+
+namespace {
+
+constexpr char data[] = "data";
+constexpr unsigned int untouched = 0x12345678;
+constexpr tagColorRGBA orange = {1.0f, 0.5f, 0.0f, 0.25f};
+const Log completeLog = {{6, "FBOManager", "Framebuffer complete.\n"}};
+
+class FBOManagerGLTest : public SurfaceFixture {
+protected:
+    void SetUp() override {
+        SurfaceFixture::SetUp();
+        Bind();
+        pool = std::make_unique<FBOManager>(windowWidth, windowHeight);
+    }
+    void TearDown() override {
+        pool.reset(); // while its context is there
+        SurfaceFixture::TearDown();
+    }
+
+    unsigned int Create(int width, int height) {
+        unsigned int handle = untouched;
+        EXPECT_EQ(pool->GLCreateFBO(&handle, width, height, GL_RGBA, false), ZO_SUCCESS);
+        return handle;
+    }
+
+    tagFrameBuffObject Get(unsigned int handle) const {
+        tagFrameBuffObject record = {untouched, 1, 2, 3, 4};
+        EXPECT_TRUE(pool->GetFBOInst(handle, &record)) << handle;
+        return record;
+    }
+
+    std::unique_ptr<FBOManager> pool;
+};
+
+void ExpectRecord(const tagFrameBuffObject& record, const tagFrameBuffObject& expected) {
+    const auto fields = [](const tagFrameBuffObject& r) {
+        return std::vector<int>{static_cast<int>(r.handle), static_cast<int>(r.texture),
+                                static_cast<int>(r.framebuffer), r.width, r.height};
+    };
+    EXPECT_EQ(fields(record), fields(expected));
+}
+
+constexpr tagFrameBuffObject freeSlot = {0xFFFFFFFF, 0, 0, 0, 0};
+
+} // namespace
+
+TEST_F(FBOManagerGLTest, StartsWithTheWindowAlone) {
+    EXPECT_EQ(harness::Record([] { const FBOManager other(1280, 720); }), Calls());
+    ExpectRecord(Get(0x10000), {0x10000, 0, 0, windowWidth, windowHeight});
+    for (const unsigned int unknown : {0U, 1U, 0x10001U, 0x1000FU, 0x10010U, 0xFFFFFFFFU}) {
+        tagFrameBuffObject record = {untouched, 1, 2, 3, 4};
+        EXPECT_FALSE(pool->GetFBOInst(unknown, &record));
+        ExpectRecord(record, {untouched, 1, 2, 3, 4});
+    }
+    for (int i = 1; i < FBOManager::slotCount; ++i) {
+        ExpectRecord(pool->slots[i], freeSlot);
+    }
+    tagFrameBuffObject copy;
+    pool->NativeFBOOut(&pool->slots[0], &copy);
+    ExpectRecord(copy, pool->slots[0]);
+    EXPECT_EQ(harness::TakeLog(), Log());
+}
+
+TEST_F(FBOManagerGLTest, CreatesABufferInOrderAndClear) {
+    Create(8, 8);
+    harness::TakeLog();
+    glClearColor(1.0f, 1.0f, 1.0f, 1.0f);
+    unsigned int handle = untouched;
+    int allocations = -1;
+    const Calls calls = harness::Record([&] {
+        allocations =
+            harness::CountAllocations([&] { pool->GLCreateFBO(&handle, 30, 20, GL_RGBA, false); });
+    });
+    const tagFrameBuffObject record = Get(handle);
+    ExpectRecord(record, {0x10002, record.texture, record.framebuffer, 30, 20});
+    EXPECT_EQ(calls,
+              (Calls{Call("glActiveTexture", GL_TEXTURE0), Call("glGenTextures", 1, data),
+                     Call("glBindTexture", GL_TEXTURE_2D, record.texture),
+                     Call("glTexImage2D", GL_TEXTURE_2D, 0, GL_RGBA, 30, 20, 0, GL_RGBA,
+                          GL_UNSIGNED_BYTE, "null"),
+                     Call("glTexParameteri", GL_TEXTURE_2D, 0x2801, 0x2601),
+                     Call("glTexParameteri", GL_TEXTURE_2D, 0x2800, 0x2601),
+                     Call("glTexParameteri", GL_TEXTURE_2D, 0x2802, 0x812F),
+                     Call("glTexParameteri", GL_TEXTURE_2D, 0x2803, 0x812F),
+                     Call("glGenFramebuffers", 1, data),
+                     Call("glBindFramebuffer", GL_FRAMEBUFFER, record.framebuffer),
+                     Call("glFramebufferTexture2D", GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0,
+                          GL_TEXTURE_2D, record.texture, 0),
+                     Call("glCheckFramebufferStatus", GL_FRAMEBUFFER),
+                     Call("glBindTexture", GL_TEXTURE_2D, 0),
+                     Call("glBindFramebuffer", GL_FRAMEBUFFER, 0),
+                     Call("glBindFramebuffer", GL_FRAMEBUFFER, record.framebuffer),
+                     Call("glViewport", 0, 0, 30, 20), Call("glClearColor", 0.0f, 0.0f, 0.0f, 0.0f),
+                     Call("glClear", GL_COLOR_BUFFER_BIT),
+                     Call("glBindFramebuffer", GL_FRAMEBUFFER, 0)}));
+    EXPECT_EQ(allocations, 0);
+    EXPECT_EQ(harness::TakeLog(), completeLog);
+    glBindFramebuffer(GL_FRAMEBUFFER, record.framebuffer);
+    EXPECT_TRUE(Matches(ReadPixels(30, 20), [](int, int) { return Pixel{0, 0, 0, 0}; }));
+    glBindFramebuffer(GL_FRAMEBUFFER, 0);
+    ExpectStateAfterDraw(GL_TEXTURE0);
+}
+
+TEST_F(FBOManagerGLTest, DestroysWhatABufferOwns) {
+    const unsigned int whole = Create(4, 4);
+    harness::FailCall("glGenTextures");
+    const unsigned int withoutTexture = Create(4, 4);
+    harness::FailCall("glGenFramebuffers");
+    const unsigned int withoutFramebuffer = Create(4, 4);
+    harness::TakeLog();
+    const Calls bothCalls = {Call("glDeleteTextures", 1, data),
+                             Call("glDeleteFramebuffers", 1, data)};
+    EXPECT_EQ(harness::Record([&] { pool->GLDestoryFBO(whole); }), bothCalls);
+    EXPECT_EQ(harness::Record([&] { pool->GLDestoryFBO(withoutTexture); }), Calls{bothCalls[1]});
+    EXPECT_EQ(harness::Record([&] { pool->GLDestoryFBO(withoutFramebuffer); }),
+              Calls{bothCalls[0]});
+    for (int i = 1; i <= 3; ++i) {
+        ExpectRecord(pool->slots[i], freeSlot);
+    }
+    EXPECT_EQ(harness::TakeLog(), Log());
+    ExpectGlError(GL_INVALID_FRAMEBUFFER_OPERATION); // without a texture, nothing to clear
+}
+
+TEST_F(FBOManagerGLTest, LogsTheDriversVerdictAndKeepsTheBuffer) {
+    const struct {
+        int status;
+        const char* text;
+    } cases[] = {
+        {0x8CD5, "Framebuffer complete.\n"},
+        {0x8CD6, "Unable to set up render Target: RFRAMEBUFFER_INCOMPLETE_ATTACHMENT\n"},
+        {0x8CD7, "Unable to set up render Target: GL_FRAMEBUFFER_INCOMPLETE_MISSING_ATTACHMENT\n"},
+        {0x8CD9, "Unable to set up render Target: GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS\n"},
+        {0x8CDD, "Unable to set up render Target: GL_FRAMEBUFFER_UNSUPPORTED\n"},
+        {0x8D56, "Framebuffer incomplete: Unknown error.\n"},
+        {0, "Framebuffer incomplete: Unknown error.\n"},
+    };
+    for (const auto& c : cases) {
+        harness::Current().framebufferStatus = c.status;
+        Get(Create(4, 4));
+        EXPECT_EQ(harness::TakeLog(), (Log{{6, "FBOManager", c.text}}));
+    }
+}
+
+TEST_F(FBOManagerGLTest, KeepsBuffersOfSizesThatCannotBe) {
+    const char* incomplete = "Unable to set up render Target: RFRAMEBUFFER_INCOMPLETE_ATTACHMENT\n";
+    const struct {
+        int width;
+        int height;
+        GLenum error; ///< the first of the driver's
+    } cases[] = {
+        {0, 0, GL_INVALID_FRAMEBUFFER_OPERATION}, {0, 5, GL_INVALID_FRAMEBUFFER_OPERATION},
+        {5, 0, GL_INVALID_FRAMEBUFFER_OPERATION}, {1 << 20, 5, GL_INVALID_VALUE},
+        {100000, 100000, GL_INVALID_VALUE},       {-1, -1, GL_INVALID_VALUE},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.width << " x " << c.height);
+        const tagFrameBuffObject record = Get(Create(c.width, c.height));
+        EXPECT_EQ(record.width, c.width);
+        EXPECT_EQ(record.height, c.height);
+        EXPECT_EQ(harness::TakeLog(), (Log{{6, "FBOManager", incomplete}}));
+        ExpectGlError(c.error);
+    }
+}
+
+TEST_F(FBOManagerGLTest, ClearsATargetToAColour) {
+    const tagFrameBuffObject buffer = Get(Create(6, 4));
+    harness::TakeLog();
+    for (const tagFrameBuffObject& target : {buffer, Get(0x10000)}) {
+        EXPECT_EQ(harness::Record([&] { pool->ClearFBOTex(&target, &orange); }),
+                  (Calls{Call("glBindFramebuffer", GL_FRAMEBUFFER, target.framebuffer),
+                         Call("glViewport", 0, 0, target.width, target.height),
+                         Call("glClearColor", 1.0f, 0.5f, 0.0f, 0.25f),
+                         Call("glClear", GL_COLOR_BUFFER_BIT),
+                         Call("glBindFramebuffer", GL_FRAMEBUFFER, 0)}));
+        glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
+        // Half of 255 may round to either side.
+        EXPECT_TRUE(Matches(
+            ReadPixels(target.width, target.height),
+            [](int, int) {
+                return Pixel{255, 128, 0, 64};
+            },
+            1));
+        glBindFramebuffer(GL_FRAMEBUFFER, 0);
+    }
+    EXPECT_EQ(harness::Record([&] {
+                  pool->ClearFBOTex(nullptr, &orange);
+                  pool->ClearFBOTex(&buffer, nullptr);
+              }),
+              Calls());
+    EXPECT_EQ(harness::TakeLog(), (Log{{6, "FBOManager", "FBO or color is nullptr\n"},
+                                       {6, "FBOManager", "FBO or color is nullptr\n"}}));
+}
+
+TEST_F(FBOManagerGLTest, DeletesItsBuffersWithItself) {
+    Create(4, 4);
+    Create(4, 4);
+    pool->GLDestoryFBO(0x10001);
+    EXPECT_EQ(harness::Record([&] { pool.reset(); }),
+              (Calls{Call("glDeleteTextures", 1, data), Call("glDeleteFramebuffers", 1, data)}));
+}

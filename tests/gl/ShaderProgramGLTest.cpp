@@ -1,0 +1,191 @@
+#include "support/SurfaceFixture.h"
+
+#include <regex>
+
+using harness::Call;
+using Calls = std::vector<std::string>;
+
+namespace {
+
+constexpr char data[] = "data";
+constexpr char vert[] = "attribute vec4 position;\n"
+                        "attribute vec4 idle;\n"
+                        "void main() { gl_Position = position; }\n";
+constexpr char frag[] = "uniform vec4 color;\n"
+                        "uniform vec4 idle;\n"
+                        "void main() { gl_FragColor = color; }\n";
+constexpr char broken[] = "void main() { no such thing; }\n";
+constexpr char stray[] = "varying vec4 never;\n"
+                         "void main() { gl_FragColor = never; }\n";
+
+class ShaderProgramGLTest : public SurfaceFixture {
+protected:
+    void SetUp() override {
+        SurfaceFixture::SetUp();
+        Bind();
+        live = harness::DescribeLive();
+    }
+
+    const ShaderProgram program{};
+    std::string live;
+};
+
+Log Lines(const std::string& text) {
+    return {{6, "ShaderProgram", text}};
+}
+
+// The precision block, whose lines are all filled up to one width but the first.
+std::string PrecisionBlock() {
+    return "#ifdef GL_FRAGMENT_PRECISION_HIGH\n"
+           "precision highp float;" +
+           std::string(11, ' ') + "\n#else" + std::string(28, ' ') + "\nprecision mediump float;" +
+           std::string(9, ' ') + "\n#endif" + std::string(27, ' ') + "\n";
+}
+
+GLuint CompileByHand(GLenum type, const char* source) {
+    const std::string precision = type == GL_FRAGMENT_SHADER ? PrecisionBlock() : "";
+    const char* strings[] = {"#version 100\n", precision.c_str(), source};
+    const GLuint shader = glCreateShader(type);
+    glShaderSource(shader, 3, strings, nullptr);
+    glCompileShader(shader);
+    return shader;
+}
+
+// What the driver says of a pair that is no program: of the shader that fails, else of the pair.
+std::string DriversLog(const char* vertex, const char* fragment) {
+    const GLuint program = glCreateProgram();
+    char text[1024] = "";
+    for (const GLuint shader :
+         {CompileByHand(GL_VERTEX_SHADER, vertex), CompileByHand(GL_FRAGMENT_SHADER, fragment)}) {
+        if (*text == '\0') {
+            glGetShaderInfoLog(shader, sizeof(text), nullptr, text);
+        }
+        glAttachShader(program, shader);
+        glDeleteShader(shader);
+    }
+    glLinkProgram(program);
+    if (*text == '\0') {
+        glGetProgramInfoLog(program, sizeof(text), nullptr, text);
+    }
+    glDeleteProgram(program);
+    EXPECT_STRNE(text, "");
+    return text;
+}
+
+} // namespace
+
+TEST_F(ShaderProgramGLTest, BuildsAProgramBehindTheCommonHeader) {
+    unsigned int name = 0;
+    const Calls calls = harness::Record([&] { name = program.CreateProgram(vert, frag); });
+    EXPECT_EQ(harness::Current().shaderStrings,
+              (std::vector<std::string>{"#version 100\n", "", vert, "#version 100\n",
+                                        PrecisionBlock(), frag}));
+    GLuint shaders[2] = {};
+    GLsizei count = 0;
+    glGetAttachedShaders(name, 2, &count, shaders);
+    ASSERT_EQ(count, 2);
+    const GLuint vertex = std::min(shaders[0], shaders[1]);
+    const GLuint fragment = std::max(shaders[0], shaders[1]);
+    EXPECT_EQ(
+        calls,
+        (Calls{Call("glCreateShader", 0x8B31), Call("glShaderSource", vertex, 3, data, "null"),
+               Call("glCompileShader", vertex), Call("glGetShaderiv", vertex, 0x8B81, data),
+               Call("glCreateShader", 0x8B30), Call("glShaderSource", fragment, 3, data, "null"),
+               Call("glCompileShader", fragment), Call("glGetShaderiv", fragment, 0x8B81, data),
+               Call("glCreateProgram"), Call("glAttachShader", name, vertex),
+               Call("glAttachShader", name, fragment), Call("glLinkProgram", name),
+               Call("glGetProgramiv", name, 0x8B82, data), Call("glDeleteShader", vertex),
+               Call("glDeleteShader", fragment)}));
+    EXPECT_EQ(harness::TakeLog(), Log());
+    EXPECT_EQ(harness::Record([&] { program.ReleaseProgram(name); }),
+              Calls{Call("glDeleteProgram", name)});
+    EXPECT_EQ(harness::Record([&] { program.ReleaseProgram(0); }), Calls());
+}
+
+TEST_F(ShaderProgramGLTest, LeavesNothingBehindWhenAStepFails) {
+    const std::string compileText = "Could not compile shader #:\n"; // # stands for the number
+    const std::string linkText = "Could not link program:\n";
+    const struct {
+        const char* vertex;
+        const char* fragment;
+        const char* fault;
+        int nth;
+        std::string text;
+    } cases[] = {
+        {broken, frag, "", 1, compileText + DriversLog(broken, frag) + "\n"},
+        {vert, broken, "", 1, compileText + DriversLog(vert, broken) + "\n"},
+        {vert, stray, "", 1, linkText + DriversLog(vert, stray) + "\n"},
+        {vert, frag, "glCreateShader", 1, "Create shader fail\n"},
+        {vert, frag, "glCreateShader", 2, "Create shader fail\n"},
+        {vert, frag, "glCreateProgram", 1, "create program fail\n"},
+        {vert, frag, "glGetShaderiv", 1, compileText + "\n"},
+        {vert, frag, "glGetShaderiv", 2, compileText + "\n"},
+        {vert, frag, "glGetProgramiv", 1, linkText + "\n"},
+        // The length of the log stays untold.
+        {broken, frag, "glGetShaderiv", 2, compileText + "\n"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.fault + std::string(" ") + c.text);
+        harness::FailCall(c.fault, c.nth);
+        EXPECT_EQ(program.CreateProgram(c.vertex, c.fragment), 0U);
+        Log log = harness::TakeLog();
+        ASSERT_EQ(log.size(), 1U);
+        log[0].text = std::regex_replace(log[0].text, std::regex("shader [0-9]+"), "shader #");
+        EXPECT_EQ(log, Lines(c.text));
+        EXPECT_EQ(harness::DescribeLive(), live);
+    }
+    EXPECT_EQ(harness::Record([&] {
+                  EXPECT_EQ(program.CreateProgram(nullptr, frag), 0U);
+                  EXPECT_EQ(program.CreateProgram(vert, nullptr), 0U);
+                  EXPECT_EQ(harness::TakeLog(), Log());
+                  EXPECT_EQ(program.LoadShader(GL_VERTEX_SHADER, nullptr), 0U);
+              }),
+              Calls());
+    EXPECT_EQ(harness::TakeLog(), Lines("Error source is NULL\n"));
+}
+
+TEST_F(ShaderProgramGLTest, PrintsTheDriversLog) {
+    const std::string text = DriversLog(broken, frag);
+    const GLuint shader = CompileByHand(GL_VERTEX_SHADER, broken);
+    const std::string heading = "Could not compile shader " + std::to_string(shader) + ":\n";
+    EXPECT_EQ(harness::Record([&] { program.PrintLog(shader); }),
+              (Calls{Call("glIsShader", shader), Call("glIsProgram", shader),
+                     Call("glGetShaderiv", shader, 0x8B84, data),
+                     Call("glGetShaderInfoLog", shader, text.size() + 1, "null", data)}));
+    EXPECT_EQ(harness::TakeLog(), Lines(heading + text + "\n"));
+
+    harness::Current().infoLogLength = 0;
+    program.PrintLog(shader);
+    EXPECT_EQ(harness::TakeLog(), Lines(heading + "\n"));
+
+    harness::RefuseAllocation(1);
+    program.PrintLog(shader);
+    EXPECT_EQ(harness::TakeLog(), Lines("allocate memory fail\n"));
+    glDeleteShader(shader);
+
+    for (const GLuint other : {0U, 9999U}) {
+        int allocations = -1;
+        EXPECT_EQ(harness::Record([&] {
+                      allocations = harness::CountAllocations([&] { program.PrintLog(other); });
+                  }),
+                  (Calls{Call("glIsShader", other), Call("glIsProgram", other)}));
+        EXPECT_EQ(allocations, 0);
+        EXPECT_EQ(harness::TakeLog(), Lines("Not a shader or a program\n"));
+    }
+}
+
+TEST_F(ShaderProgramGLTest, FindsWhatTheProgramUses) {
+    const unsigned int name = program.CreateProgram(vert, frag);
+    EXPECT_EQ(program.GetAttribLocation(name, "position"), glGetAttribLocation(name, "position"));
+    EXPECT_EQ(program.GetUniformLocation(name, "color"), glGetUniformLocation(name, "color"));
+    EXPECT_EQ(harness::TakeLog(), Log());
+    for (const char* missing : {"idle", "unheardOf"}) { // declared but removed; never declared
+        EXPECT_EQ(program.GetAttribLocation(name, missing), -1);
+        EXPECT_EQ(harness::TakeLog(),
+                  Lines(std::string("Could not bind attribute ") + missing + "\n"));
+        EXPECT_EQ(program.GetUniformLocation(name, missing), -1);
+        EXPECT_EQ(harness::TakeLog(),
+                  Lines(std::string("Could not bind uniform ") + missing + "\n"));
+    }
+    program.ReleaseProgram(name);
+}

@@ -1,0 +1,72 @@
+#include "platform/LogFilter.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace {
+
+constexpr int fatal = 7;
+constexpr int none = fatal + 1;
+
+struct Case {
+    std::string expression;
+    std::string tag;
+    int least; ///< the least priority that is shown
+};
+
+} // namespace
+
+TEST(LogFilterTest, ShowsFromTheLeastPriorityOn) {
+    std::string fullTable; // of 32 entries
+    for (int i = 0; i < 33; ++i) {
+        fullTable += 'T' + std::to_string(i) + ":S ";
+    }
+    const std::string longTag(1023, 'x'); // all the room for tags there is
+    const Case cases[] = {
+        {"", "A", 2},
+        {" \t\n,", "A", 2},
+        {"*:V", "A", 2},
+        {"*:D", "A", 3},
+        {"*:I", "A", 4},
+        {"*:W", "A", 5},
+        {"*:E", "A", 6},
+        {"*:F", "A", 7},
+        {"*:S", "A", none},
+        {"*:w", "A", 5},
+        {"*:s", "A", none},
+        {"A:E", "A", 6},
+        {"A:E", "B", 2},
+        {"A:E", "AB", 2},
+        {"AB:E", "A", 2},
+        {"A:S *:W", "B", 5},
+        {"A:S *:W", "A", none},
+        {"*:S A:V", "A", 2},
+        {"*:S,A:V", "A", 2},
+        {"*:S\tA:V\nB:E", "B", 6},
+        {"A:S A:E", "A", 6},
+        {"*:S *:E", "A", 6},
+        {"*:S A", "A", 2},
+        {"*:S A:", "A", 2},
+        {"*:E A:x", "A", 2},
+        {"*", "A", 3},
+        {"*:", "A", 3},
+        {"*:x", "A", 3},
+        {":E", "", 2},
+        {fullTable, "T31", none},
+        {fullTable, "T32", 2},
+        {longTag + ":S A:S", longTag, none},
+        {longTag + ":S A:S", "A", 2},
+        {longTag + "x:S A:S", longTag + "x", 2},
+        {longTag + "x:S A:S", "A", none},
+    };
+    for (const Case& c : cases) {
+        std::string expression = c.expression;
+        const LogFilter filter(expression.c_str());
+        expression.assign(expression.size(), '-'); // the filter keeps a copy
+        for (int priority = 2; priority <= fatal; ++priority) {
+            EXPECT_EQ(filter.Shows(priority, c.tag.c_str()), priority >= c.least)
+                << c.expression << ", " << c.tag << ", " << priority;
+        }
+    }
+    EXPECT_TRUE(LogFilter(nullptr).Shows(2, "A"));
+}

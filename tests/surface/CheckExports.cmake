@@ -1,0 +1,23 @@
+cmake_minimum_required(VERSION 3.21)
+
+# Compares what LIBRARY exports, as NM tells, with LIST: a symbol a line, demangled and sorted.
+# What is exported stays exported for good, so a change of the list is to be thought over.
+execute_process(COMMAND "${NM}" -D -C --defined-only "${LIBRARY}"
+  OUTPUT_VARIABLE lines RESULT_VARIABLE result)
+if(result)
+  message(FATAL_ERROR "${NM} fails on ${LIBRARY}")
+endif()
+string(REPLACE "\n" ";" lines "${lines}")
+list(TRANSFORM lines REPLACE "^[0-9a-f]* *[A-Za-z] " "")
+list(FILTER lines EXCLUDE REGEX "^$")
+list(REMOVE_DUPLICATES lines) # the kinds of a constructor look alike
+file(STRINGS "${LIST}" listed)
+set(missing ${listed})
+list(REMOVE_ITEM missing ${lines})
+set(unlisted ${lines})
+list(REMOVE_ITEM unlisted ${listed})
+if(missing OR unlisted)
+  list(JOIN missing "\n  " missing)
+  list(JOIN unlisted "\n  " unlisted)
+  message(FATAL_ERROR "no longer exported:\n  ${missing}\nexported, but not listed:\n  ${unlisted}")
+endif()

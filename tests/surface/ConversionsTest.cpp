@@ -1,0 +1,117 @@
+#include "support/SurfaceFixture.h"
+#include "surface/Results.h"
+
+#include <climits>
+#include <cstring>
+
+namespace {
+
+struct ConversionsTest : ::testing::Test {
+    ConversionsTest() { harness::Reset(); }
+
+    const ZoGLDrawSurface surface;
+};
+
+constexpr tagRectInfo untouched = {-3.0f, -4.0f, -5.0f, -6.0f};
+
+void ExpectRect(const tagRectInfo& rect, const tagRectInfo& expected) {
+    EXPECT_EQ((std::vector<float>{rect.x, rect.y, rect.width, rect.height}),
+              (std::vector<float>{expected.x, expected.y, expected.width, expected.height}));
+}
+
+} // namespace
+
+TEST_F(ConversionsTest, MapsPixelsToVertexAndTextureSpace) {
+    const struct {
+        tagZoRectInfo rect;
+        unsigned int width;
+        unsigned int height;
+        tagRectInfo vertex;
+        tagRectInfo texture;
+    } cases[] = {
+        {{0, 0, 1280, 720}, 1280, 720, {-1, 1, 2, 2}, {0, 1, 1, 1}},
+        {{0, 0, 1, 1}, 1, 1, {-1, 1, 2, 2}, {0, 1, 1, 1}},
+        {{2, 4, 8, 16}, 16, 32, {-0.75f, 0.75f, 1, 1}, {0.125f, 0.875f, 0.5f, 0.5f}},
+        {{1, 1, 1, 1},
+         3,
+         5,
+         {2.0f / 3.0f - 1.0f, 1.0f - 2.0f / 5.0f, 2.0f / 3.0f, 2.0f / 5.0f},
+         {1.0f / 3.0f, 1.0f - 1.0f / 5.0f, 1.0f / 3.0f, 1.0f / 5.0f}},
+        {{4, 6, 8, 9}, 2, 3, {3, -3, 8, 6}, {2, -1, 4, 3}},
+        // Doubled as floats, where 32 bits would overflow.
+        {{0x80000000U, 0x80000000U, 0x80000000U, 0xC0000000U},
+         2,
+         2,
+         {2147483647.0f, -2147483647.0f, 2147483648.0f, 3221225472.0f},
+         {1073741824.0f, -1073741823.0f, 1073741824.0f, 1610612736.0f}},
+        {{5, 6, 7, 8}, 0, 5, untouched, untouched},
+        {{5, 6, 7, 8}, 5, 0, untouched, untouched},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.rect.x << " on " << c.width << " x " << c.height);
+        tagRectInfo out = untouched;
+        surface.ScreenCoordToVCoord(&c.rect, &out, c.width, c.height);
+        ExpectRect(out, c.vertex);
+        out = untouched;
+        surface.ScreenCoordToFboCoord(&c.rect, &out, c.width, c.height);
+        ExpectRect(out, c.texture);
+    }
+}
+
+TEST_F(ConversionsTest, MapsColourBytes) {
+    for (int value = 0; value <= 255; ++value) {
+        const unsigned char byte = static_cast<unsigned char>(value);
+        const float expected =
+            value <= 1 ? static_cast<float>(value) : static_cast<float>(value) / 255.0f;
+        const tagZoColorRGBA in = {byte, 0, 1, static_cast<unsigned char>(255 - value)};
+        tagColorRGBA out = {};
+        surface.ConvertGLColor(&in, &out);
+        EXPECT_EQ(out.r, expected) << value;
+        EXPECT_EQ(out.g, 0.0f);
+        EXPECT_EQ(out.b, 1.0f);
+        EXPECT_EQ(out.a, value >= 254 ? static_cast<float>(255 - value)
+                                      : static_cast<float>(255 - value) / 255.0f);
+    }
+}
+
+TEST_F(ConversionsTest, CopiesRequests) {
+    const char16_t text[] = u"text";
+    const tagZoTextInfo in = {text, 4, {0, 1, 2, 255}, {255, 2, 1, 0}, 11, 12, 13, 14, 15};
+    tagTextInfo out = {};
+    EXPECT_EQ(harness::CountAllocations([&] { surface.SetTextInfo(&in, &out); }), 0);
+    const float channels[] = {0.0f, 1.0f, 2.0f / 255.0f, 1.0f, 1.0f, 2.0f / 255.0f, 1.0f, 0.0f};
+    EXPECT_EQ(memcmp(&out.color, channels, 16), 0);
+    EXPECT_EQ(memcmp(&out.reservedColor, channels + 4, 16), 0);
+    EXPECT_EQ(out.text, text);
+    EXPECT_EQ(out.length, 4U);
+    EXPECT_EQ(out.reservedByte, 11);
+    EXPECT_EQ(out.fontSize, 12U);
+    EXPECT_EQ(out.bold, 13);
+    EXPECT_EQ(out.reservedStyle, 14);
+    EXPECT_EQ(out.italic, 15);
+
+    const unsigned char pixels[] = {0};
+    tagBitmapInfo bitmap = {nullptr, untouched, 0, 0, 0};
+    for (const int format : {9, 8, 10, -1}) {
+        const tagZoBitmapInfo shown = {pixels, format, 1, 2, 3, 4, {0, 0, 8, 4}};
+        surface.SetBitmapInfo(&bitmap, &shown, format == 9 ? 0 : 8, 4);
+        ExpectRect(bitmap.rect, format == 9 ? untouched : tagRectInfo{-1, 1, 2, 2});
+        EXPECT_EQ(bitmap.data, pixels);
+        EXPECT_EQ(bitmap.width, 3);
+        EXPECT_EQ(bitmap.height, 4);
+        EXPECT_EQ(bitmap.format, 0x1908U);
+        EXPECT_EQ(surface.ConvertFormatToGLES(format), 0x1908U);
+        const harness::LogLine line = {6, "ZoGLDrawSurface",
+                                       "Color format is invalid " + std::to_string(format) + "\n"};
+        EXPECT_EQ(harness::TakeLog(), format == 9 ? Log() : (Log{line, line}));
+    }
+}
+
+TEST_F(ConversionsTest, FoldsCodesIntoThePublicOnes) {
+    const std::set<int> kept = {1, 2, 3, 4, 5, 10, 13, 14, 15, 20, 30, 31, 32, 100, 101};
+    for (int code = -2; code <= 300; ++code) {
+        EXPECT_EQ(ToError(code), kept.count(code) != 0 ? code : code == 12 ? 11 : 100) << code;
+    }
+    EXPECT_EQ(ToError(INT_MIN), 100);
+    EXPECT_EQ(ToError(INT_MAX), 100);
+}

@@ -1,0 +1,152 @@
+#include "LifecycleFixture.h"
+
+#include <array>
+
+namespace {
+
+class InitGLTest : public LifecycleFixture {
+protected:
+    /// Binds anew, without the pool that binding makes: here it is a component like the others.
+    void Restart() {
+        surface->ZoDestoryGLWindowSurface();
+        Bind();
+        surface->fboManager.reset();
+    }
+};
+
+constexpr char everything[] = "text blit bitmap frame rect pool ";
+constexpr char outOfMemory[] = "out of memory\n";
+
+} // namespace
+
+TEST_F(InitGLTest, CreatesWhatTheFlagsName) {
+    const std::pair<unsigned int, const char*> cases[] = {
+        {0, ""},          {0xFFFFFFC0, ""},      {0x01, "text "},
+        {0x02, "blit "},  {0x04, "bitmap "},     {0x08, "rect "},
+        {0x10, "frame "}, {0x12, "blit frame "}, {0x3F, everything},
+        {0x20, "pool "},
+    };
+    for (const auto& [flags, components] : cases) {
+        SCOPED_TRACE(flags);
+        Restart();
+        EXPECT_EQ(surface->Init(flags), ZO_SUCCESS);
+        EXPECT_EQ(Components(), components);
+        const auto again = [&, wanted = flags] { surface->Init(wanted); };
+        EXPECT_EQ(harness::Record(again), Calls()); // what is there stays
+    }
+    EXPECT_EQ(Target(0x10000).width, windowWidth);
+}
+
+TEST_F(InitGLTest, StopsAtTheFirstFailureAndResumesThere) {
+    const struct {
+        const char* before; ///< the components made before the one that fails
+        const char* tag;
+        const char* text;
+    } cases[] = {
+        {"", "OSDText", "OSD text init fail 20\n"},
+        {"text ", "OSDBlit", "OSD blit init fail 20\n"},
+        {"text blit ", "OSDBitmap", "OSD bitmap fail 20\n"},
+        {"text blit bitmap ", "OSDFrame", "OSD frame init fail 20\n"},
+        {"text blit bitmap frame ", "OSDRect", "OSD Rect init fail 20\n"},
+    };
+    int nth = 0;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.tag);
+        Restart();
+        harness::FailCall("glCreateProgram", ++nth);
+        EXPECT_EQ(surface->Init(allComponents), ZO_PROGRAM_FAILED);
+        EXPECT_EQ(Components(), c.before);
+        Log log = TakeLogAboveVerbose();
+        log.erase(log.begin()); // the atlas's size
+        EXPECT_EQ(log, (Log{{6, "ShaderProgram", "create program fail\n"},
+                            {6, c.tag, "create shader program fail"},
+                            SurfaceLine(c.text)}));
+        const int count = harness::CountOf("glCreateProgram");
+        EXPECT_EQ(surface->Init(allComponents), ZO_SUCCESS);
+        EXPECT_EQ(harness::CountOf("glCreateProgram") - count, 6 - nth);
+        EXPECT_EQ(Components(), everything);
+    }
+    Restart();
+    harness::FailCall("FT_New_Face");
+    EXPECT_EQ(surface->Init(allComponents), ZO_FONT_FACE_FAILED);
+    EXPECT_EQ(Components(), "");
+    EXPECT_EQ(harness::TakeLog().back(), SurfaceLine("Load font fail 31\n"));
+}
+
+TEST_F(InitGLTest, SaysThatMemoryIsRefused) {
+    const struct {
+        unsigned int flags;
+        int nth;
+        int code;
+        Log log;
+    } cases[] = {
+        {0x20, 1, 100, {SurfaceLine(outOfMemory)}},
+        {0x02, 1, 100, {SurfaceLine(outOfMemory), SurfaceLine("OSD blit init fail 100\n")}},
+        {0x04, 1, 100, {SurfaceLine(outOfMemory), SurfaceLine("OSD bitmap fail 100\n")}},
+        {0x08, 1, 100, {SurfaceLine(outOfMemory), SurfaceLine("OSD Rect init fail 100\n")}},
+        {0x10, 1, 100, {SurfaceLine(outOfMemory), SurfaceLine("OSD frame init fail 100\n")}},
+        {0x08,
+         2,
+         20, // of the renderer's helper
+         {{6, "OSDRect", "create shader program fail"}, SurfaceLine("OSD Rect init fail 20\n")}},
+    };
+    Restart();
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.flags << ", " << c.nth);
+        harness::RefuseAllocation(c.nth);
+        EXPECT_EQ(surface->Init(c.flags), c.code);
+        EXPECT_EQ(harness::TakeLog(), c.log);
+        EXPECT_EQ(Components(), "");
+    }
+    EXPECT_EQ(surface->Init(allComponents), ZO_SUCCESS);
+    surface->ZoDestoryGLWindowSurface();
+    harness::TakeLog();
+    harness::RefuseAllocation(1);
+    EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_FAILURE);
+    EXPECT_EQ(harness::TakeLog(), Log{SurfaceLine(outOfMemory)});
+    ExpectUnbound();
+    harness::RefuseAllocation(2); // of the pool, which binding does without
+    EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_SUCCESS);
+    EXPECT_EQ(harness::TakeLog().back(), SurfaceLine(outOfMemory));
+    unsigned int handle = 7;
+    harness::RefuseAllocation(1);
+    EXPECT_EQ(surface->ZoCreateGLFBO(&handle, 4, 4, 9), ZO_FAILURE);
+    EXPECT_EQ(handle, 7U);
+    EXPECT_EQ(harness::TakeLog(), Log{SurfaceLine(outOfMemory)});
+    ExpectUsable();
+}
+
+TEST_F(InitGLTest, SurvivesEveryRefusedAllocation) {
+    const tagZoTextInfo text = {u"A", 1, {255, 255, 255, 255}, {}, 0, 20, 1, 0, 1};
+    const tagZoRectInfo rect = {0, 0, 4, 4};
+    unsigned int handle = 0;
+    std::array<int, 4> codes;
+    const auto useAll = [&] {
+        codes = {surface->ZoCreateGLWindowSurface(window.Native()), surface->Init(allComponents),
+                 surface->ZoCreateGLFBO(&handle, 4, 4, 9),
+                 surface->ZoDrawText(ZO_WINDOW_HANDLE, &text, &rect)};
+    };
+    const std::array<int, 4> successes = {};
+    const int allocations = harness::CountAllocations(useAll);
+    EXPECT_EQ(codes, successes);
+    EXPECT_GT(allocations, 10);
+    for (int nth = 1; nth <= allocations; ++nth) {
+        SCOPED_TRACE(nth);
+        surface = std::make_unique<ZoGLDrawSurface>();
+        harness::TakeLog();
+        harness::RefuseAllocation(nth);
+        useAll();
+        harness::RefuseAllocation(0);
+        for (const int code : codes) {
+            EXPECT_TRUE(code == ZO_SUCCESS || code == ZO_FAILURE || code == ZO_PROGRAM_FAILED)
+                << code;
+        }
+        const Log log = TakeLogAboveVerbose();
+        EXPECT_TRUE(std::any_of(log.begin(), log.end(), [](const harness::LogLine& line) {
+            return line.text == outOfMemory || line.text == "create shader program fail";
+        }));
+        surface->ZoDestoryGLWindowSurface();
+        useAll();
+        EXPECT_EQ(codes, successes);
+    }
+}

@@ -1,0 +1,63 @@
+#include "LifecycleFixture.h"
+
+void LifecycleFixture::SetUp() {
+    SurfaceFixture::SetUp();
+    harness::State& state = harness::Current();
+    state.fontFile = ZOGLES_TEST_FONT;
+    state.firstChar = [](FT_Face face, FT_UInt* index) -> FT_ULong {
+        *index = FT_Get_Char_Index(face, 'A');
+        return 'A';
+    };
+    state.nextChar = [](FT_Face, FT_ULong, FT_UInt* index) -> FT_ULong { return *index = 0; };
+}
+
+std::string LifecycleFixture::Components() const {
+    std::string names = surface->osdText ? "text " : "";
+    names += surface->osdBlit ? "blit " : "";
+    names += surface->osdBitmap ? "bitmap " : "";
+    names += surface->osdFrame ? "frame " : "";
+    names += surface->osdRect ? "rect " : "";
+    return names + (surface->fboManager ? "pool " : "");
+}
+
+void LifecycleFixture::ExpectUnbound() const {
+    EXPECT_EQ(Components(), "");
+    EXPECT_EQ(surface->eglManager, nullptr);
+    EXPECT_EQ(surface->fontAtlas, nullptr);
+    EXPECT_EQ(surface->fontStyleAtlas, nullptr);
+    EXPECT_FALSE(surface->fontLoaded);
+    EXPECT_FALSE(surface->surfaceCreated);
+    EXPECT_EQ(harness::DescribeLive(), "");
+}
+
+void LifecycleFixture::Fill(unsigned int handle) {
+    const tagFrameBuffObject target = Target(handle);
+    const tagZoRectInfo rect = {0, 0, static_cast<unsigned int>(target.width),
+                                static_cast<unsigned int>(target.height)};
+    const tagZoColorRGBA color = {10, 20, 30, 40};
+    EXPECT_EQ(surface->ZoDrawRect(handle, &rect, &color), ZO_SUCCESS);
+}
+
+void LifecycleFixture::ExpectUsable() {
+    if (!surface->surfaceCreated) {
+        Bind();
+    }
+    const unsigned int buffer = CreateBuffer(8, 8);
+    Fill(buffer);
+    EXPECT_TRUE(Matches(Read(buffer), Filled));
+    EXPECT_EQ(surface->ZoDestoryGLFBO(buffer), ZO_SUCCESS);
+    EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_SUCCESS);
+    EXPECT_EQ(harness::TakeLog(), Log());
+}
+
+harness::LogLine SurfaceLine(const std::string& text, int priority) {
+    return {priority, "ZoGLDrawSurface", text};
+}
+
+Log TakeLogAboveVerbose() {
+    Log log = harness::TakeLog();
+    log.erase(std::remove_if(log.begin(), log.end(),
+                             [](const harness::LogLine& line) { return line.priority <= 2; }),
+              log.end());
+    return log;
+}

@@ -1,0 +1,43 @@
+/// @file
+/// A surface whose default font is there, and small.
+#ifndef ZOGLES_TESTS_SURFACE_LIFECYCLEFIXTURE_H
+#define ZOGLES_TESTS_SURFACE_LIFECYCLEFIXTURE_H
+
+#include "support/SurfaceFixture.h"
+
+#include <algorithm>
+
+using Calls = std::vector<std::string>;
+
+constexpr unsigned int allComponents = 0x3F;
+
+class LifecycleFixture : public SurfaceFixture {
+protected:
+    void SetUp() override;
+
+    /// The components that exist: "text blit bitmap frame rect pool ".
+    std::string Components() const;
+
+    /// That nothing of a binding is left.
+    void ExpectUnbound() const;
+
+    /// Fills a target as `Filled` says.
+    void Fill(unsigned int handle);
+
+    /// Binds, unless bound already, draws into a new buffer, looks at it and destroys it.
+    void ExpectUsable();
+};
+
+inline Pixel Filled(int, int) {
+    return {10, 20, 30, 40};
+}
+inline Pixel Empty(int, int) {
+    return {0, 0, 0, 0};
+}
+
+harness::LogLine SurfaceLine(const std::string& text, int priority = 6);
+
+/// The log without its verbose lines.
+Log TakeLogAboveVerbose();
+
+#endif

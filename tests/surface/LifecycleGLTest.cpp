@@ -1,0 +1,206 @@
+#include "LifecycleFixture.h"
+
+using harness::Call;
+
+namespace {
+
+class LifecycleGLTest : public LifecycleFixture {
+protected:
+    void ExpectWindowSize(unsigned int width, unsigned int height) const {
+        EXPECT_EQ(surface->ZoGetWindowWidth(), width);
+        EXPECT_EQ(surface->ZoGetWindowHeight(), height);
+    }
+};
+
+constexpr char data[] = "data";
+const harness::LogLine creating = SurfaceLine("Create GL window\n", 5);
+const harness::LogLine recreating = SurfaceLine("ReCreate GL window\n", 5);
+const harness::LogLine makeFails = SurfaceLine("Make current EGL context fail 100\n");
+
+harness::LogLine EglLine(const std::string& text, int priority = 6) {
+    return {priority, "EGLManager", text};
+}
+
+} // namespace
+
+TEST_F(LifecycleGLTest, StartsUnboundWithoutACall) {
+    EXPECT_EQ(harness::Record([&] {
+                  surface = std::make_unique<ZoGLDrawSurface>();
+                  EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_NO_EGL_MANAGER);
+                  EXPECT_EQ(surface->ZoCreateGLWindowSurface(nullptr), ZO_INVALID_PARAM);
+                  ExpectUnbound();
+                  ExpectWindowSize(1920, 1080);
+                  surface->ZoDestoryGLWindowSurface();
+                  surface.reset();
+              }),
+              Calls());
+    EXPECT_EQ(harness::TakeLog(),
+              (Log{SurfaceLine("eglManager no init\n"), SurfaceLine("native window is NULL\n")}));
+}
+
+TEST_F(LifecycleGLTest, MovesToAnotherWindowAndKeepsTheRest) {
+    ASSERT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_SUCCESS);
+    EXPECT_EQ(harness::TakeLog().front(), creating);
+    EXPECT_EQ(Components(), "pool ");
+    ExpectWindowSize(windowWidth, windowHeight);
+    EXPECT_EQ(Target(0x10000).height, windowHeight);
+    ASSERT_EQ(surface->Init(allComponents), ZO_SUCCESS);
+    const unsigned int buffer = CreateBuffer(8, 8);
+    Fill(buffer);
+    const void* text = surface->osdText.get();
+
+    const TestWindow other(200, 100);
+    const Calls calls = harness::Record([&] {
+        EXPECT_EQ(surface->ZoCreateGLWindowSurface(nullptr), ZO_INVALID_PARAM);
+        EXPECT_EQ(surface->ZoCreateGLWindowSurface(other.Native()), ZO_SUCCESS);
+    });
+    EXPECT_EQ(calls,
+              (Calls{Call("eglDestroySurface", data, data),
+                     Call("eglCreateWindowSurface", data, data,
+                          reinterpret_cast<uintptr_t>(other.Native()), "null"),
+                     Call("eglMakeCurrent", data, data, data, data),
+                     Call("eglQuerySurface", data, data, 0x3057, data),
+                     Call("eglQuerySurface", data, data, 0x3056, data), Call("glGetString", 0x1F02),
+                     Call("glGetString", 0x1F00), Call("glGetString", 0x1F01)}));
+    EXPECT_EQ(harness::TakeLog()[1], recreating);
+    ExpectWindowSize(200, 100);
+    EXPECT_EQ(Target(0x10000).height, windowHeight); // the pool's own record stays
+    EXPECT_EQ(surface->osdText.get(), text);
+    EXPECT_TRUE(Matches(Read(buffer), Filled));
+    ExpectUsable();
+    surface->ZoDestoryGLWindowSurface();
+    ExpectUnbound();
+    ExpectWindowSize(200, 100);
+    EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_NO_EGL_MANAGER);
+}
+
+TEST_F(LifecycleGLTest, ReturnsToUnboundWhenTheSurfaceCannotBeMade) {
+    const struct {
+        const char* call;
+        bool isBound;
+        int code;
+    } cases[] = {{"eglGetDisplay", false, 1},          {"eglInitialize", false, 2},
+                 {"eglChooseConfig", false, 3},        {"eglCreateContext", false, 4},
+                 {"eglCreateWindowSurface", false, 5}, {"eglCreateWindowSurface", true, 5}};
+    Bind();
+    const unsigned int kept = CreateBuffer(6, 5);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.call) + (c.isBound ? ", bound" : ""));
+        surface->ZoDestoryGLWindowSurface();
+        if (c.isBound) {
+            Bind();
+            ASSERT_EQ(surface->Init(allComponents), ZO_SUCCESS);
+        }
+        harness::TakeLog();
+        harness::FailCall(c.call);
+        EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), c.code);
+        const Log log = TakeLogAboveVerbose();
+        EXPECT_EQ(log[0], c.isBound ? recreating : creating);
+        EXPECT_EQ(log[2], SurfaceLine("Create openGLES window surface fail " +
+                                      std::to_string(c.code) + "\n"));
+        ExpectUnbound();
+        ExpectWindowSize(windowWidth, windowHeight);
+        ExpectUsable();
+        EXPECT_EQ(Target(kept).height, 5);
+    }
+}
+
+TEST_F(LifecycleGLTest, IsHalfBoundWhenTheContextCannotBeMadeCurrent) {
+    harness::FailCall("eglMakeCurrent");
+    EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_FAILURE);
+    EXPECT_EQ(TakeLogAboveVerbose(),
+              (Log{creating, EglLine("egl make current failed: 0x3000"), makeFails}));
+    EXPECT_NE(surface->eglManager->surface, nullptr);
+    EXPECT_FALSE(surface->surfaceCreated);
+    EXPECT_EQ(Components(), "");
+    ExpectWindowSize(1920, 1080);
+    // The next attempt finds the surface there and clears up, the one after that succeeds.
+    EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_FAILURE);
+    EXPECT_EQ(TakeLogAboveVerbose(),
+              (Log{creating, EglLine("surface already created"),
+                   SurfaceLine("Create openGLES window surface fail 100\n")}));
+    ExpectUnbound();
+    ExpectUsable();
+}
+
+TEST_F(LifecycleGLTest, StaysBoundWhenTheContextCannotBeMadeCurrentAgain) {
+    Bind();
+    ASSERT_EQ(surface->Init(allComponents), ZO_SUCCESS);
+    harness::TakeLog();
+    for (const int code : {ZO_FAILURE, ZO_SUCCESS}) {
+        harness::FailCall("eglMakeCurrent", code == ZO_FAILURE ? 1 : 0);
+        EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), code);
+        const Log log = TakeLogAboveVerbose();
+        EXPECT_EQ(log[0], recreating);
+        EXPECT_EQ(log[2] == makeFails, code == ZO_FAILURE);
+        EXPECT_TRUE(surface->surfaceCreated);
+        EXPECT_EQ(Components(), "text blit bitmap frame rect pool ");
+    }
+    ExpectUsable();
+}
+
+TEST_F(LifecycleGLTest, IgnoresTheResultOfTheSwap) {
+    Bind();
+    for (const int nth : {0, 1}) {
+        harness::FailCall("eglSwapBuffers", nth);
+        EXPECT_EQ(harness::Record([&] { EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_SUCCESS); }),
+                  Calls{Call("eglSwapBuffers", data, data)});
+    }
+    EXPECT_EQ(harness::TakeLog(), Log());
+}
+
+TEST_F(LifecycleGLTest, DropsItsPartsInOrder) {
+    Bind();
+    CreateBuffer(4, 4);
+    for (const bool isReset : {true, false}) {
+        ASSERT_EQ(surface->Init(allComponents), ZO_SUCCESS);
+        // Letting go of the window ends the context first; a reset does it last.
+        Calls expected = {Call("eglDestroyContext", data, data),
+                          Call("glDeleteFramebuffers", 1, data),
+                          Call("glDeleteProgram", surface->osdText->program),
+                          Call("glDeleteProgram", surface->osdBlit->program),
+                          Call("glDeleteProgram", surface->osdBitmap->program),
+                          Call("glDeleteProgram", surface->osdFrame->program),
+                          Call("glDeleteProgram", surface->osdRect->program)};
+        if (isReset) {
+            std::rotate(expected.begin(), expected.begin() + 1, expected.end());
+        }
+        Calls calls = harness::Record(
+            [&] { isReset ? surface->ResetGLSource() : surface->ZoDestoryGLWindowSurface(); });
+        calls.erase(std::remove_if(calls.begin(), calls.end(),
+                                   [&](const std::string& call) {
+                                       return std::find(expected.begin(), expected.end(), call) ==
+                                              expected.end();
+                                   }),
+                    calls.end());
+        EXPECT_EQ(calls, expected);
+        ExpectUnbound();
+        Bind();
+    }
+}
+
+TEST_F(LifecycleGLTest, LeavesNothingBehindInManyCycles) {
+    Bind();
+    const unsigned int dropped = CreateBuffer(9, 9);
+    const unsigned int kept = CreateBuffer(8, 6);
+    EXPECT_EQ(surface->ZoDestoryGLFBO(dropped), ZO_SUCCESS);
+    const tagZoTextInfo text = {u"A", 1, {255, 255, 255, 255}, {}, 0, 40, 0, 0, 0};
+    const tagZoRectInfo rect = {0, 0, 8, 6};
+    for (int cycle = 0; cycle < 200; ++cycle) {
+        SCOPED_TRACE(cycle);
+        surface->ZoDestoryGLWindowSurface();
+        ASSERT_EQ(harness::DescribeLive(), "");
+        const TestWindow next(40 + cycle, 30);
+        ASSERT_EQ(surface->ZoCreateGLWindowSurface(next.Native()), ZO_SUCCESS);
+        ASSERT_EQ(surface->ZoGetWindowWidth(), 40U + static_cast<unsigned int>(cycle));
+        ASSERT_EQ(surface->Init(allComponents), ZO_SUCCESS);
+        ASSERT_EQ(Target(kept).height, 6);
+        ASSERT_TRUE(Matches(Read(kept), Empty));
+        Fill(kept);
+        ASSERT_EQ(surface->ZoDrawText(kept, &text, &rect), ZO_SUCCESS);
+        ASSERT_EQ(surface->ZoDisplayFBO(kept, &rect, &rect), ZO_SUCCESS);
+        ASSERT_EQ(surface->ZoRefreshOnSrceen(), ZO_SUCCESS);
+        surface->ZoDestoryGLWindowSurface();
+        harness::TakeLog();
+    }
+}
