@@ -16,7 +16,7 @@ struct RegionCopy {
 /// linear filter included, into a new texture. Sampled there, the region gives what it gives in the
 /// buffer, past its edges too. The texture is the caller's to delete.
 /// Leaves the buffer's framebuffer bound, texture unit 0 active and the new texture bound.
-/// @return false when there is no texture to be had; nothing is changed then
+/// @return false when there is no texture to be had; only unit 0 is active then
 bool CopyRegion(const tagFrameBuffObject& buffer, const tagRectInfo& texRect, RegionCopy* copy);
 
 #endif

@@ -1,0 +1,219 @@
+// The calls that the drawing operations make, the vertices they upload and the state they leave.
+
+#include "OSDFixture.h"
+
+#include <algorithm>
+#include <cstring>
+
+using harness::Call;
+
+namespace {
+
+using Calls = std::vector<std::string>;
+using Floats = std::vector<float>;
+
+const void* const data = &data;
+const Image image = Noise(3, 5);
+constexpr tagZoRectInfo rect = {16, 8, 32, 16};
+
+std::string Fill(size_t size) {
+    return Call("memset_s", data, size, 0, size);
+}
+
+std::string BindTexture(GLuint texture) {
+    return Call("glBindTexture", GL_TEXTURE_2D, texture);
+}
+
+Calls BindTarget(GLuint framebuffer, int width, int height) {
+    return {Call("glBindFramebuffer", GL_FRAMEBUFFER, framebuffer),
+            Call("glViewport", 0, 0, width, height)};
+}
+
+Calls Feed(GLint location, GLuint buffer, int bytes) {
+    return {Call("glEnableVertexAttribArray", location),
+            Call("glBindBuffer", GL_ARRAY_BUFFER, buffer),
+            Call("glVertexAttribPointer", location, 4, GL_FLOAT, GL_FALSE, 0,
+                 static_cast<const void*>(nullptr)),
+            Call("glBufferData", GL_ARRAY_BUFFER, bytes, data, GL_DYNAMIC_DRAW)};
+}
+
+Calls Unfeed(GLint location) {
+    return {Call("glBindBuffer", GL_ARRAY_BUFFER, 0), Call("glDisableVertexAttribArray", location)};
+}
+
+Calls operator+(Calls first, const Calls& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+template <typename Renderer>
+Calls DrawQuad(const Renderer& renderer, const std::string& bindTexture) {
+    return Calls{Call("glActiveTexture", GL_TEXTURE0), bindTexture,
+                 Call("glUniform1i", renderer.texLocation, 0)} +
+           Feed(renderer.coordLocation, renderer.vertexBuffer, 64) +
+           Calls{Call("glDrawElements", GL_TRIANGLES, 6, GL_UNSIGNED_SHORT, data)};
+}
+
+Calls SetParameters() {
+    return {Call("glTexParameteri", GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR),
+            Call("glTexParameteri", GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR),
+            Call("glTexParameteri", GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE),
+            Call("glTexParameteri", GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE)};
+}
+
+// The driver chooses the name of a texture that an operation makes.
+constexpr char bindNew[] = "bind the new texture";
+Calls RecordWithNewTextureNamed(const std::function<void()>& run) {
+    Calls calls = harness::Record(run);
+    const auto made = std::find(calls.begin(), calls.end(), Call("glGenTextures", 1, data));
+    const auto bound = std::find_if(made, calls.end(), [](const std::string& call) {
+        return call.find("glBindTexture") == 0 && call != BindTexture(0);
+    });
+    if (bound != calls.end()) {
+        std::replace(calls.begin(), calls.end(), std::string(*bound), std::string(bindNew));
+    }
+    return calls;
+}
+
+Floats Vertices() {
+    const std::vector<unsigned char>& bytes = harness::Current().bufferData;
+    Floats vertices(bytes.size() / sizeof(float));
+    memcpy(vertices.data(), bytes.data(), bytes.size());
+    return vertices;
+}
+
+class OSDCallsGLTest : public OSDFixture {};
+
+} // namespace
+
+TEST_F(OSDCallsGLTest, AreExactlyThese) {
+    Bind();
+    ASSERT_EQ(surface->Init(ZO_COMPONENT_RECT | ZO_COMPONENT_BLIT | ZO_COMPONENT_FRAME |
+                            ZO_COMPONENT_BITMAP),
+              ZO_SUCCESS);
+    const unsigned int source = CreateBuffer(128, 64);
+    const unsigned int target = CreateBuffer(64, 32);
+    const size_t targetSize = sizeof(tagFrameBuffObject);
+    const size_t rectSize = sizeof(tagRectInfo);
+    const OSDRect& filler = *surface->osdRect;
+    const OSDBlit& blitter = *surface->osdBlit;
+    const OSDFrame& frame = *surface->osdFrame;
+    const OSDBitmap& bitmap = *surface->osdBitmap;
+    const Calls bind = BindTarget(Target(target).framebuffer, 64, 32);
+    const Calls unbind = {Call("glBindFramebuffer", GL_FRAMEBUFFER, 0)};
+    const Calls unbindTexture = {BindTexture(0)};
+    const Calls blitStart = bind + Calls{Call("glUseProgram", blitter.program)};
+    const Calls blitEnd = Unfeed(blitter.coordLocation) + unbindTexture + unbind;
+    const Calls makeTexture = {Call("glActiveTexture", GL_TEXTURE0),
+                               Call("glGenTextures", 1, data)};
+    const Calls deleteTexture = {Call("glDeleteTextures", 1, data)};
+    const Calls disableBlending = {Call("glDisable", GL_BLEND)};
+    const auto clearAndBlend = [](GLuint program) {
+        return BindTarget(0, windowWidth, windowHeight) +
+               Calls{Call("glClearColor", 0, 0, 0, 0),
+                     Call("glClear", GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT),
+                     Call("glUseProgram", program), Call("glEnable", GL_BLEND),
+                     Call("glBlendFunc", GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA)};
+    };
+    constexpr float h = 0.5f;
+    constexpr float q = 0.25f;
+    constexpr float s0 = 1 / 34.0f; // within the 34 by 18 pixels that a blit sets aside
+    constexpr float s1 = s0 + 32 / 34.0f;
+    constexpr float t0 = 17 / 18.0f;
+    constexpr float t1 = t0 - 16 / 18.0f;
+    const struct {
+        const char* name;
+        std::function<void()> run;
+        Calls calls;
+        Floats vertices;
+        GLenum activeTexture;
+    } operations[] = {
+        {"rectangle",
+         [&] {
+             Draw(target, rect, {255, 128, 2, 1});
+         },
+         Calls{Fill(targetSize), Fill(rectSize), Fill(sizeof(tagColorRGBA))} + bind +
+             Calls{Call("glUseProgram", filler.program),
+                   Call("glUniform4fv", filler.colorLocation, 1, 1.0f, 128 / 255.0f, 2 / 255.0f,
+                        1.0f)} +
+             Feed(filler.positionLocation, filler.vertexBuffer, 96) +
+             Calls{Call("glDrawArrays", GL_TRIANGLES, 0, 6)} + Unfeed(filler.positionLocation) +
+             unbind,
+         {-h, h, 0, 1, h, h, 0, 1, -h, -h, 0, 1, h, -h, 0, 1, -h, -h, 0, 1, h, h, 0, 1},
+         GL_TEXTURE2},
+        {"blit",
+         [&] { Blit(source, target, rect, rect); },
+         Calls(2, Fill(targetSize)) + blitStart +
+             DrawQuad(blitter, BindTexture(Target(source).texture)) + blitEnd,
+         {-h, -h, 0.125f, 0.625f, h, -h, 0.375f, 0.625f, //
+          -h, h, 0.125f, 0.875f, h, h, 0.375f, 0.875f},
+         GL_TEXTURE0},
+        // The region and a pixel all around it are set aside.
+        {"blit within one buffer",
+         [&] { Blit(target, target, rect, rect); },
+         Calls(2, Fill(targetSize)) + makeTexture +
+             Calls{bind[0], bindNew,
+                   Call("glCopyTexImage2D", GL_TEXTURE_2D, 0, GL_RGBA, 15, 7, 34, 18, 0)} +
+             SetParameters() + blitStart + DrawQuad(blitter, bindNew) + blitEnd + deleteTexture,
+         {-h, -h, s0, t1, h, -h, s1, t1, -h, h, s0, t0, h, h, s1, t0},
+         GL_TEXTURE0},
+        {"presentation",
+         [&] {
+             Display(target, rect, {40, 30, 80, 60});
+         },
+         Calls{Fill(targetSize), Fill(rectSize), Fill(rectSize)} + clearAndBlend(frame.program) +
+             DrawQuad(frame, BindTexture(Target(target).texture)) + disableBlending +
+             Unfeed(frame.coordLocation) + unbindTexture,
+         {-h, -h, q, q, h, -h, 0.75f, q, -h, h, q, 0.75f, h, h, 0.75f, 0.75f},
+         GL_TEXTURE0},
+        {"bitmap",
+         [&] {
+             Display(image, {40, 30, 80, 60});
+         },
+         Calls{Fill(sizeof(tagBitmapInfo))} + makeTexture +
+             Calls{bindNew,
+                   Call("glTexImage2D", GL_TEXTURE_2D, 0, GL_RGBA, 3, 5, 0, GL_RGBA,
+                        GL_UNSIGNED_BYTE, data),
+                   Call("glPixelStorei", GL_UNPACK_ALIGNMENT, 4)} +
+             SetParameters() + unbindTexture + clearAndBlend(bitmap.program) +
+             DrawQuad(bitmap, bindNew) + Unfeed(bitmap.coordLocation) + disableBlending +
+             unbindTexture + deleteTexture,
+         {-h, h, 0, 0, h, h, 1, 0, -h, -h, 0, 1, h, -h, 1, 1},
+         GL_TEXTURE0},
+    };
+    const std::string live = harness::DescribeLive();
+    for (const auto& operation : operations) {
+        SCOPED_TRACE(operation.name);
+        glActiveTexture(GL_TEXTURE2);
+        EXPECT_EQ(RecordWithNewTextureNamed(operation.run), operation.calls);
+        EXPECT_EQ(Vertices(), operation.vertices);
+        ExpectStateAfterDraw(operation.activeTexture);
+        EXPECT_EQ(harness::CountAllocations(operation.run), 0);
+        EXPECT_EQ(harness::DescribeLive(), live);
+    }
+}
+
+TEST_F(OSDCallsGLTest, PlaceNothingWhereThereAreNoPixels) {
+    Bind();
+    const unsigned int buffer = CreateBuffer(64, 32);
+    const unsigned int flat = CreateBuffer(64, 0);
+    const Floats ofFlat = {-1, -1, 0, 0, 1, -1, 0, 0, -1, 1, 0, 0, 1, 1, 0, 0};
+    const tagZoRectInfo whole = {0, 0, 160, 120};
+    Draw(flat, rect, {1, 1, 1, 1});
+    EXPECT_EQ(Vertices(), (Floats{0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 1, //
+                                  0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 1}));
+    Blit(flat, buffer, rect, {0, 0, 64, 32});
+    EXPECT_EQ(Vertices(), ofFlat);
+    Blit(buffer, flat, {0, 0, 64, 32}, rect);
+    EXPECT_EQ(Vertices(), (Floats{0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 1, 1}));
+    Blit(flat, flat, rect, rect);
+    EXPECT_EQ(Vertices(), Floats(16, 0.0f));
+    ExpectGlError(GL_INVALID_FRAMEBUFFER_OPERATION);
+    Display(flat, rect, whole);
+    EXPECT_EQ(Vertices(), ofFlat);
+    surface->windowHeight = 0;
+    Display(flat, rect, whole);
+    EXPECT_EQ(Vertices(), Floats(16, 0.0f));
+    Display(image, whole);
+    EXPECT_EQ(Vertices(), (Floats{0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 1, 1}));
+}

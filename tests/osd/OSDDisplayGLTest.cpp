@@ -1,0 +1,107 @@
+// The two operations that show something on the whole window: buffers and client bitmaps.
+
+#include "OSDFixture.h"
+
+namespace {
+
+class OSDDisplayGLTest : public OSDFixture {};
+
+const Image translucent = Noise(61, 47);
+const Image opaque = Noise(31, 17, true);
+const Image square = {2, 2, {{255, 0, 0, 255}, {0, 255, 0, 255}, {0, 0, 255, 255}, {9, 9, 9, 255}}};
+
+const struct {
+    const char* name;
+    const Image& image;
+    tagZoRectInfo from;
+    tagZoRectInfo to;
+} presentations[] = {
+    {"translucent", translucent, WholeOf(translucent), {20, 30, 61, 47}},
+    {"past the window's corner", translucent, WholeOf(translucent), {130, 100, 61, 47}},
+    {"over the whole window", opaque, WholeOf(opaque), {0, 0, 160, 120}},
+    {"stretched", square, WholeOf(square), {10, 20, 64, 64}},
+    {"to no pixels", opaque, WholeOf(opaque), {20, 20, 0, 10}},
+    {"a part", translucent, {10, 20, 30, 25}, {0, 0, 30, 25}},
+    {"past the buffer's corner", translucent, {50, 40, 40, 40}, {90, 70, 40, 40}},
+    {"a part at half its size", opaque, {1, 3, 30, 14}, {100, 5, 15, 7}},
+};
+
+} // namespace
+
+TEST_F(OSDDisplayGLTest, ReplacesTheWholeWindowByBlendedPixels) {
+    Bind();
+    for (const auto& [name, image, from, to] : presentations) {
+        SCOPED_TRACE(name);
+        // Drivers round blended and filtered levels in their own ways.
+        const auto isShown = [&, blended = Blended(Drawn(image, from, to))] {
+            return Matches(ReadWindow(), blended, 1);
+        };
+        const unsigned int buffer = CreateBuffer(image);
+        FillWindow({255, 255, 255, 255});
+        Display(buffer, from, to);
+        EXPECT_TRUE(isShown());
+        surface->ZoDestoryGLFBO(buffer);
+        if (from.width != WholeOf(image).width) {
+            continue; // bitmaps are shown whole
+        }
+        FillWindow({255, 255, 255, 255});
+        glPixelStorei(GL_UNPACK_ALIGNMENT, 1); // as the glyph atlases leave it
+        Display(image, to);
+        EXPECT_TRUE(isShown());
+        GLint alignment = 0;
+        glGetIntegerv(GL_UNPACK_ALIGNMENT, &alignment);
+        EXPECT_EQ(alignment, 4);
+        EXPECT_EQ(surface->osdBitmap->texture, 0U);
+    }
+    EXPECT_EQ(harness::TakeLog(), Log());
+}
+
+TEST_F(OSDDisplayGLTest, ShowsTheLastPresentationOnTheScreen) {
+    Bind();
+    const unsigned int buffer = CreateBuffer(translucent);
+    Display(square, {0, 0, 160, 120});
+    Display(buffer, WholeOf(translucent), {0, 0, 160, 120});
+    const tagZoRectInfo to = {70, 20, 61, 47};
+    Display(buffer, WholeOf(translucent), to);
+    EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_SUCCESS);
+    const PixelAt expected = [&](int x, int y) {
+        const Pixel pixel = Blended(Drawn(translucent, WholeOf(translucent), to))(x, y);
+        return Pixel{pixel[0], pixel[1], pixel[2], 255};
+    };
+    const Image screen = window.Grab([&](const Image& image) {
+        return image.At(80, 30) != image.At(0, 0); // something has arrived
+    });
+    EXPECT_TRUE(Matches(screen, expected, 1)); // as drivers round what they blend
+}
+
+TEST_F(OSDDisplayGLTest, TakesBitmapsOfAnyFormatAsRgbaAndNeedsNoPool) {
+    Bind();
+    surface->fboManager.reset();
+    for (const int format : {8, 10, 0, -1}) {
+        Display(opaque, {1, 2, 31, 17}, format);
+        const std::string line = "Color format is invalid " + std::to_string(format) + "\n";
+        EXPECT_EQ(harness::TakeLog(), (Log{{6, "ZoGLDrawSurface", line}}));
+        EXPECT_TRUE(Matches(ReadWindow(), Drawn(opaque, WholeOf(opaque), {1, 2, 31, 17})));
+    }
+    EXPECT_EQ(surface->fboManager, nullptr);
+}
+
+// The window holds no image to sample, which GL reads as opaque black.
+TEST_F(OSDDisplayGLTest, FindsNoImageInTheWindow) {
+    Bind();
+    const unsigned int buffer = CreateBuffer(translucent);
+    const tagZoRectInfo to = {5, 6, 7, 8};
+    const auto blackOver = [&](const PixelAt& ground) -> PixelAt {
+        return [=](int x, int y) {
+            return Contains(to, x, y) ? Pixel{0, 0, 0, 255} : ground(x, y);
+        };
+    };
+    Blit(ZO_WINDOW_HANDLE, buffer, to, to);
+    EXPECT_TRUE(Matches(Read(buffer), blackOver(Of(translucent))));
+    FillWindow({10, 20, 30, 40});
+    Blit(ZO_WINDOW_HANDLE, ZO_WINDOW_HANDLE, to, to);
+    EXPECT_TRUE(Matches(ReadWindow(), blackOver(Of(Pixel{10, 20, 30, 40}))));
+    Display(ZO_WINDOW_HANDLE, to, to);
+    EXPECT_TRUE(Matches(ReadWindow(), blackOver(Of(emptyPixel))));
+    EXPECT_EQ(harness::TakeLog(), Log());
+}

@@ -1,0 +1,59 @@
+/// @file
+/// What the drawing operations' tests share: the operations, and formulas for what they leave.
+#ifndef ZOGLES_TESTS_OSD_OSDFIXTURE_H
+#define ZOGLES_TESTS_OSD_OSDFIXTURE_H
+
+#include "support/SurfaceFixture.h"
+
+using PixelAt = std::function<Pixel(int x, int y)>;
+
+constexpr Pixel emptyPixel = {0, 0, 0, 0};
+
+bool Contains(const tagZoRectInfo& rect, int x, int y);
+
+/// A picture without any repetition that a wrong place could hide in.
+Image Noise(int width, int height, bool isOpaque = false);
+
+/// The pixels of an image, or one pixel everywhere.
+PixelAt Of(const Image& image);
+PixelAt Of(const Pixel& pixel);
+
+tagZoRectInfo WholeOf(const Image& image);
+
+/// `image`'s region `from`, linearly filtered and with its edge pixels repeated, drawn to the
+/// rectangle `to` over `background`.
+PixelAt Drawn(const Image& image, const tagZoRectInfo& from, const tagZoRectInfo& to,
+              const PixelAt& background = Of(emptyPixel));
+
+/// What blending makes of pixels drawn over transparent black.
+PixelAt Blended(const PixelAt& drawn);
+
+class OSDFixture : public SurfaceFixture {
+protected:
+    using SurfaceFixture::CreateBuffer;
+    unsigned int CreateBuffer(const Image& image);
+
+    Image ReadWindow() { return ReadPixels(windowWidth, windowHeight); }
+
+    void FillWindow(const tagZoColorRGBA& color) {
+        Draw(ZO_WINDOW_HANDLE, {0, 0, windowWidth, windowHeight}, color);
+    }
+
+    void Draw(unsigned int buffer, const tagZoRectInfo& rect, const tagZoColorRGBA& color) {
+        EXPECT_EQ(surface->ZoDrawRect(buffer, &rect, &color), ZO_SUCCESS);
+    }
+
+    void Blit(unsigned int source, unsigned int destination, const tagZoRectInfo& from,
+              const tagZoRectInfo& to) {
+        const tagZoBlitInfo info = {source, destination, from, to};
+        EXPECT_EQ(surface->ZoBlit(&info), ZO_SUCCESS);
+    }
+
+    void Display(unsigned int buffer, const tagZoRectInfo& from, const tagZoRectInfo& to) {
+        EXPECT_EQ(surface->ZoDisplayFBO(buffer, &from, &to), ZO_SUCCESS);
+    }
+
+    void Display(const Image& image, const tagZoRectInfo& to, int format = ZO_FORMAT_RGBA8888);
+};
+
+#endif
