@@ -39,6 +39,11 @@ const GlyphMap::value_type* GlyphMap::Table::FirstEntryFrom(unsigned long code) 
     return nullptr;
 }
 
+GlyphMap::const_iterator& GlyphMap::const_iterator::operator++() {
+    entry = table->FirstEntryFrom(entry->first + 1);
+    return *this;
+}
+
 void GlyphMap::Detach() {
     if (!table) {
         table = std::make_shared<Table>();

@@ -106,10 +106,7 @@ public:
 
     reference operator*() const { return *entry; }
     pointer operator->() const { return entry; }
-    const_iterator& operator++() {
-        entry = table->FirstEntryFrom(entry->first + 1);
-        return *this;
-    }
+    const_iterator& operator++();
     const_iterator operator++(int) {
         const const_iterator before = *this;
         ++*this;
