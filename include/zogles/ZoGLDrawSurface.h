@@ -245,7 +245,8 @@ public:
 
     /// Loads a font file for all text drawn from now on. Without it, the first text operation loads
     /// the platform's default font at 40 pixels. A loaded font is dropped with the window.
-    /// @param path a file of any format that FreeType opens; not kept
+    /// @param path a file of any format that FreeType opens; the path is not kept, but the file
+    ///     stays open and mapped until another font is loaded, so it must not be cut short meanwhile
     /// @param size glyph height in pixels for text of the standard style (40, neither bold nor
     ///     italic) and for measuring; 0 means 40
     /// @pre the surface is bound

@@ -1,7 +1,5 @@
 #include "osd/TexturedQuad.h"
 
-#include "gl/RenderTarget.h"
-
 namespace {
 
 constexpr char vertexSource[] = "attribute vec4 coord;\n"
@@ -30,9 +28,4 @@ int InitTexturedQuad(const char* tag, std::unique_ptr<ShaderProgram>& helper, GL
     texLocation = helper->GetUniformLocation(program, "tex");
     glGenBuffers(1, &vertexBuffer);
     return ZO_SUCCESS;
-}
-
-void ClearWindow(int width, int height) {
-    BindTarget(0, width, height);
-    ClearTarget(transparentBlack, GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }

@@ -3,6 +3,7 @@
 #ifndef ZOGLES_OSD_TEXTUREDQUAD_H
 #define ZOGLES_OSD_TEXTUREDQUAD_H
 
+#include "gl/RenderTarget.h"
 #include "gl/RendererObjects.h"
 #include "gl/Vertices.h"
 #include "surface/Records.h"
@@ -47,6 +48,9 @@ inline void DrawQuad(const Vertex (&quad)[4]) {
 /// Makes the window the target and all of it transparent black, the start of both operations that
 /// show something on the window.
 /// @param width,height the window's size in pixels
-void ClearWindow(int width, int height);
+inline void ClearWindow(int width, int height) {
+    BindTarget(0, width, height);
+    ClearTarget(transparentBlack, GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+}
 
 #endif

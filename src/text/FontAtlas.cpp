@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr char tag[] = "FontAtlas";
-
 // Calls `visit` with every character that the face maps, rendered, in ascending order.
 template <typename Visit>
 void WalkFace(FT_Face face, Visit visit) {
@@ -16,7 +14,8 @@ void WalkFace(FT_Face face, Visit visit) {
     for (FT_ULong code = FT_Get_First_Char(face, &index); index != 0;
          code = FT_Get_Next_Char(face, code, &index)) {
         if (FT_Load_Char(face, code, FT_LOAD_RENDER) != 0) {
-            __android_log_print(LogError, tag, "Loading character %lu failed!\n", code);
+            __android_log_print(LogError, standardAtlas.tag, "Loading character %lu failed!\n",
+                                code);
             continue;
         }
         visit(face->glyph, code);
@@ -37,7 +36,7 @@ int FontAtlas::LoadFontByPath(const char* path, unsigned int size) {
     height = 0;
     FT_Library library = nullptr;
     FT_Face face = nullptr;
-    int code = OpenFace(tag, path, library, face);
+    int code = OpenFace(standardAtlas.tag, path, library, face);
     if (code == ZO_SUCCESS) {
         code = LoadFont(face, size);
     }
@@ -47,7 +46,7 @@ int FontAtlas::LoadFontByPath(const char* path, unsigned int size) {
 
 int FontAtlas::LoadFont(FT_Face face, unsigned int size) {
     DeleteTexture();
-    SetPixelSize(tag, face, size);
+    SetPixelSize(standardAtlas.tag, face, size);
     int code = CalculateTexSize(face);
     if (code == ZO_SUCCESS) {
         code = CreateAtlasTex();
@@ -58,7 +57,7 @@ int FontAtlas::LoadFont(FT_Face face, unsigned int size) {
     try {
         FontToTexture(face);
     } catch (const std::bad_alloc&) {
-        code = RefuseMemory(tag);
+        code = RefuseMemory(standardAtlas.tag);
         DeleteTexture();
     }
     glBindTexture(GL_TEXTURE_2D, 0);
@@ -67,22 +66,23 @@ int FontAtlas::LoadFont(FT_Face face, unsigned int size) {
 
 int FontAtlas::CalculateTexSize(FT_Face face) {
     return SizeAtlas(
-        tag, [face](auto visit) { WalkFace(face, visit); }, width, height);
+        standardAtlas, [face](auto visit) { WalkFace(face, visit); }, width, height);
 }
 
 int FontAtlas::CreateAtlasTex() {
-    texture = CreateGlyphTexture(tag, standardAtlasUnit, width, height);
+    texture = CreateGlyphTexture(standardAtlas, width, height);
     return texture == 0 ? ZO_FAILURE : ZO_SUCCESS;
 }
 
 void FontAtlas::FontToTexture(FT_Face face) {
     FillAtlas(
-        tag, [face](auto visit) { WalkFace(face, visit); }, width, height,
+        standardAtlas, [face](auto visit) { WalkFace(face, visit); }, width, height,
         [this](FT_GlyphSlot glyph, int x, int y, FT_ULong code) {
             FontCharInfoToMap(glyph, x, y, code);
         });
-    __android_log_print(LogWarning, tag, "Generated a %d x %d (%d kb) texture atlas\n", width,
-                        height, (width * height) >> 10);
+    __android_log_print(LogWarning, standardAtlas.tag,
+                        "Generated a %d x %d (%d kb) texture atlas\n", width, height,
+                        (width * height) >> 10);
 }
 
 void FontAtlas::FontCharInfoToMap(FT_GlyphSlot glyph, int x, int y, unsigned long charCode) {

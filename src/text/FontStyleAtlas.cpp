@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr char tag[] = "FontStyleAtlas";
-
 // Each glyph point moves to the right by a fifth of its height.
 constexpr FT_Matrix slant = {0x10000, 0x3333, 0, 0x10000};
 
@@ -41,7 +39,7 @@ FontStyleAtlas::~FontStyleAtlas() {
 
 int FontStyleAtlas::LoadFontByPath(const char* path) {
     CloseFace(library, face);
-    return OpenFace(tag, path, library, face);
+    return OpenFace(styledAtlas.tag, path, library, face);
 }
 
 int FontStyleAtlas::GetFontTexture(const tagTextInfo* info, unsigned int* textureOut) {
@@ -60,7 +58,7 @@ int FontStyleAtlas::GetFontTexture(const tagTextInfo* info, unsigned int* textur
         FontToTexture(info);
         *textureOut = texture;
     } catch (const std::bad_alloc&) {
-        code = RefuseMemory(tag);
+        code = RefuseMemory(styledAtlas.tag);
         DeleteTexture();
     }
     glBindTexture(GL_TEXTURE_2D, 0);
@@ -71,24 +69,24 @@ void FontStyleAtlas::SetFontStyleAtlas(const tagTextInfo* info) const {
     if (face == nullptr) {
         return;
     }
-    SetPixelSize(tag, face, info->fontSize);
+    SetPixelSize(styledAtlas.tag, face, info->fontSize);
     FT_Matrix matrix = slant;
     FT_Set_Transform(face, info->italic != 0 ? &matrix : nullptr, nullptr);
 }
 
 int FontStyleAtlas::CalculateTexSize(const tagTextInfo* info) {
     return SizeAtlas(
-        tag, [this, info](auto visit) { WalkText(face, *info, visit); }, width, height);
+        styledAtlas, [this, info](auto visit) { WalkText(face, *info, visit); }, width, height);
 }
 
 int FontStyleAtlas::CreateStyleTex() {
-    texture = CreateGlyphTexture(tag, styledAtlasUnit, width, height);
+    texture = CreateGlyphTexture(styledAtlas, width, height);
     return texture == 0 ? ZO_FAILURE : ZO_SUCCESS;
 }
 
 void FontStyleAtlas::FontToTexture(const tagTextInfo* info) {
     FillAtlas(
-        tag, [this, info](auto visit) { WalkText(face, *info, visit); }, width, height,
+        styledAtlas, [this, info](auto visit) { WalkText(face, *info, visit); }, width, height,
         [this](FT_GlyphSlot glyph, int x, int y, FT_ULong code) {
             FontCharInfoToMap(glyph, x, y, code);
         });

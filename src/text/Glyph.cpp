@@ -40,7 +40,8 @@ const GlyphMap::value_type* GlyphMap::Table::FirstEntryFrom(unsigned long code) 
 }
 
 GlyphMap::const_iterator& GlyphMap::const_iterator::operator++() {
-    entry = table->FirstEntryFrom(entry->first + 1);
+    const unsigned long next = entry->first + 1;
+    entry = next == 0 ? nullptr : table->FirstEntryFrom(next); // no code comes after the highest
     return *this;
 }
 

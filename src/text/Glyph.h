@@ -41,6 +41,21 @@ public:
     class const_iterator;
     using iterator = const_iterator;
 
+    GlyphMap() = default;
+    ~GlyphMap() = default;
+    GlyphMap(const GlyphMap&) = default;
+    GlyphMap(GlyphMap&&) = default;
+    GlyphMap& operator=(GlyphMap&&) = default;
+
+    /// Taking over the table that is shared already, as a draw after a draw does, costs no atomic
+    /// count.
+    GlyphMap& operator=(const GlyphMap& other) {
+        if (table != other.table) {
+            table = other.table;
+        }
+        return *this;
+    }
+
     /// The glyph of a code, inserted all zero where there is none.
     tagGlyphInfo& operator[](unsigned long code);
 

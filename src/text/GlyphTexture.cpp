@@ -13,16 +13,6 @@
 
 namespace {
 
-// The rows of an atlas are up to 1,023 pixels wide, so a driver that makes atlases at all makes
-// textures of this size.
-constexpr unsigned int commonTextureSide = 1024;
-
-unsigned int LargestTextureSide() {
-    GLint side = 0;
-    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &side);
-    return side > 0 ? static_cast<unsigned int>(side) : static_cast<unsigned int>(INT_MAX);
-}
-
 void Upload(unsigned int x, unsigned int y, const FT_Bitmap& bitmap, const void* coverage) {
     glTexSubImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(x), static_cast<GLint>(y),
                     static_cast<GLsizei>(bitmap.width), static_cast<GLsizei>(bitmap.rows), GL_ALPHA,
@@ -77,13 +67,6 @@ struct ConvertedBitmap {
     FT_Bitmap bitmap;
 };
 
-// The largest texture that the driver knows can be more than it has memory for.
-bool IsRefusedAsTooLarge(unsigned int width, unsigned int height) {
-    const unsigned int side = std::max(width, height);
-    return side > commonTextureSide && side >= LargestTextureSide() &&
-           glGetError() == GL_OUT_OF_MEMORY;
-}
-
 // Pen advances are 26.6 fixed point; 32 bits of them count.
 float WholePixels(FT_Pos advance) {
     return static_cast<float>(static_cast<std::uint32_t>(advance) >> 6);
@@ -91,28 +74,43 @@ float WholePixels(FT_Pos advance) {
 
 } // namespace
 
-bool FitsTexture(unsigned int width, unsigned int height) {
+bool TextureLimit::Fits(unsigned int width, unsigned int height) {
     const unsigned int side = std::max(width, height);
-    return side <= commonTextureSide || side <= LargestTextureSide();
+    return side <= trusted || side <= Largest();
 }
 
-void CutToLargestTexture(unsigned int& width, unsigned int& height) {
-    if (!FitsTexture(width, height)) {
-        width = std::min(width, LargestTextureSide());
-        height = std::min(height, LargestTextureSide());
+bool TextureLimit::IsReached(unsigned int width, unsigned int height) {
+    const unsigned int side = std::max(width, height);
+    return side > trusted && side >= Largest();
+}
+
+void TextureLimit::Cut(unsigned int& width, unsigned int& height) {
+    if (!Fits(width, height)) {
+        width = std::min(width, Largest());
+        height = std::min(height, Largest());
     }
 }
 
-GLuint CreateGlyphTexture(const char* tag, GLenum unit, unsigned int width, unsigned int height) {
-    const GLuint texture = GenerateTexture(unit);
+unsigned int TextureLimit::Largest() {
+    if (largest == 0) {
+        GLint side = 0;
+        glGetIntegerv(GL_MAX_TEXTURE_SIZE, &side);
+        largest = static_cast<unsigned int>(side > 0 ? side : INT_MAX);
+    }
+    return largest;
+}
+
+GLuint CreateGlyphTexture(const AtlasKind& kind, unsigned int width, unsigned int height) {
+    const GLuint texture = GenerateTexture(kind.unit);
     if (texture == 0) {
-        __android_log_print(LogError, tag, "Create texture fail\n");
+        __android_log_print(LogError, kind.tag, "Create texture fail\n");
         return 0;
     }
     glBindTexture(GL_TEXTURE_2D, texture);
     AllocateTexture(GL_ALPHA, static_cast<GLsizei>(width), static_cast<GLsizei>(height), nullptr);
-    if (IsRefusedAsTooLarge(width, height)) {
-        __android_log_print(LogError, tag, "Create texture fail\n");
+    // The largest texture that the driver knows can be more than it has memory for.
+    if (TextureLimit(kind).IsReached(width, height) && glGetError() == GL_OUT_OF_MEMORY) {
+        __android_log_print(LogError, kind.tag, "Create texture fail\n");
         glBindTexture(GL_TEXTURE_2D, 0);
         glDeleteTextures(1, &texture);
         return 0;
@@ -163,12 +161,14 @@ tagGlyphInfo DescribeGlyph(FT_GlyphSlot glyph, int x, int y, unsigned int width,
             static_cast<float>(y) / static_cast<float>(height)};
 }
 
-void ReportLeftOut(const char* tag, unsigned int count) {
+void ReportLeftOut(const AtlasKind& kind, unsigned int count) {
     if (count != 0) {
-        __android_log_print(LogError, tag, "%u characters do not fit the largest texture\n", count);
+        __android_log_print(LogError, kind.tag, "%u characters do not fit the largest texture\n",
+                            count);
     }
 }
 
-void LogEmptyAtlas(const char* tag, unsigned int width, unsigned int height) {
-    __android_log_print(LogError, tag, "Calculate texture width %ud, height %ud\n", width, height);
+void LogEmptyAtlas(const AtlasKind& kind, unsigned int width, unsigned int height) {
+    __android_log_print(LogError, kind.tag, "Calculate texture width %ud, height %ud\n", width,
+                        height);
 }

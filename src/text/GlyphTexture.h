@@ -9,21 +9,47 @@
 
 #include <GLES2/gl2.h>
 
-/// The texture unit of each kind of atlas; unit 0 is left to buffers and bitmaps.
-constexpr GLenum standardAtlasUnit = GL_TEXTURE1;
-constexpr GLenum styledAtlasUnit = GL_TEXTURE2;
+/// What tells one kind of atlas from the other.
+struct AtlasKind {
+    const char* tag; ///< for the log
+    GLenum unit;     ///< its texture unit; unit 0 is left to buffers and bitmaps
 
-/// Whether the driver can make a texture of that size. Asks the driver only about sizes that go
-/// beyond the rows of an ordinary atlas; a limit that it does not tell is taken as none.
-bool FitsTexture(unsigned int width, unsigned int height);
+    /// Up to this many pixels a side the driver is not asked whether it can make the texture.
+    unsigned int trustedSide;
+};
 
-/// Cuts a texture size down to what the driver can make.
-void CutToLargestTexture(unsigned int& width, unsigned int& height);
+/// Every driver makes textures of 64 pixels a side; a font is loaded seldom enough to ask for more.
+constexpr AtlasKind standardAtlas = {"FontAtlas", GL_TEXTURE1, 64};
+
+/// One is built for each draw, so the driver is asked only about what goes beyond the rows of an
+/// ordinary atlas.
+constexpr AtlasKind styledAtlas = {"FontStyleAtlas", GL_TEXTURE2, 1024};
+
+/// How large the driver can make a texture, asked for when first needed. A limit that it does not
+/// tell is taken as none.
+class TextureLimit {
+public:
+    explicit TextureLimit(const AtlasKind& kind) : trusted(kind.trustedSide) {}
+
+    bool Fits(unsigned int width, unsigned int height);
+
+    /// Whether a texture is as large as the driver can make it.
+    bool IsReached(unsigned int width, unsigned int height);
+
+    /// Cuts a texture size down to what the driver can make.
+    void Cut(unsigned int& width, unsigned int& height);
+
+private:
+    unsigned int Largest();
+
+    unsigned int trusted;
+    unsigned int largest = 0; ///< 0 until it is asked for
+};
 
 /// Creates a texture of one coverage byte a texel, without defined content, and leaves it bound on
-/// the unit. Logs under `tag` when there is none to be had.
+/// the kind's unit. Logs when there is none to be had.
 /// @return its name, or 0
-GLuint CreateGlyphTexture(const char* tag, GLenum unit, unsigned int width, unsigned int height);
+GLuint CreateGlyphTexture(const AtlasKind& kind, unsigned int width, unsigned int height);
 
 /// Writes the slot's bitmap into the bound texture, as 8-bit coverage in rows without padding
 /// whatever FreeType delivered.
@@ -37,50 +63,54 @@ void DropAtlas(GLuint& texture, unsigned int& width, unsigned int& height, Glyph
 tagGlyphInfo DescribeGlyph(FT_GlyphSlot glyph, int x, int y, unsigned int width,
                            unsigned int height);
 
-/// Logs under `tag` how many characters found no room, if any.
-void ReportLeftOut(const char* tag, unsigned int count);
+/// Logs how many characters found no room, if any.
+void ReportLeftOut(const AtlasKind& kind, unsigned int count);
 
-/// Sizes an atlas, or logs under `tag` that it would be empty.
+/// Sizes an atlas, or logs that it would be empty.
 /// @param walk called with a function that it calls with each loaded slot and its code
 /// @return ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
 template <typename Walk>
-int SizeAtlas(const char* tag, Walk walk, unsigned int& width, unsigned int& height);
+int SizeAtlas(const AtlasKind& kind, Walk walk, unsigned int& width, unsigned int& height);
 
 /// Renders an atlas into the bound texture of `width` by `height`. What finds no room is left out
-/// and reported under `tag`.
+/// and reported.
 /// @param walk as in `SizeAtlas`, loading the same glyphs in the same order
 /// @param store called with the slot, x, y and code of each glyph that is in the texture
 template <typename Walk, typename Store>
-void FillAtlas(const char* tag, Walk walk, unsigned int width, unsigned int height, Store store);
+void FillAtlas(const AtlasKind& kind, Walk walk, unsigned int width, unsigned int height,
+               Store store);
 
-void LogEmptyAtlas(const char* tag, unsigned int width, unsigned int height);
+void LogEmptyAtlas(const AtlasKind& kind, unsigned int width, unsigned int height);
 
 template <typename Walk>
-int SizeAtlas(const char* tag, Walk walk, unsigned int& width, unsigned int& height) {
+int SizeAtlas(const AtlasKind& kind, Walk walk, unsigned int& width, unsigned int& height) {
     GlyphPacker packer;
-    walk([&packer](FT_GlyphSlot glyph, FT_ULong) {
-        if (FitsTexture(glyph->bitmap.width, glyph->bitmap.rows)) {
+    TextureLimit limit(kind);
+    walk([&](FT_GlyphSlot glyph, FT_ULong) {
+        if (limit.Fits(glyph->bitmap.width, glyph->bitmap.rows)) {
             packer.Place(glyph->bitmap.width, glyph->bitmap.rows);
         }
     });
     width = packer.Width();
     height = packer.Height();
     if (width == 0 || height == 0) {
-        LogEmptyAtlas(tag, width, height);
+        LogEmptyAtlas(kind, width, height);
         return ZO_FONT_ATLAS_EMPTY;
     }
-    CutToLargestTexture(width, height);
+    limit.Cut(width, height);
     return ZO_SUCCESS;
 }
 
 template <typename Walk, typename Store>
-void FillAtlas(const char* tag, Walk walk, unsigned int width, unsigned int height, Store store) {
+void FillAtlas(const AtlasKind& kind, Walk walk, unsigned int width, unsigned int height,
+               Store store) {
     GlyphPacker packer;
+    TextureLimit limit(kind);
     unsigned int leftOut = 0;
     walk([&](FT_GlyphSlot glyph, FT_ULong code) {
         const unsigned int w = glyph->bitmap.width;
         const unsigned int h = glyph->bitmap.rows;
-        if (!FitsTexture(w, h)) {
+        if (!limit.Fits(w, h)) {
             ++leftOut;
             return;
         }
@@ -91,7 +121,7 @@ void FillAtlas(const char* tag, Walk walk, unsigned int width, unsigned int heig
         }
         store(glyph, static_cast<int>(cell.x), static_cast<int>(cell.y), code);
     });
-    ReportLeftOut(tag, leftOut);
+    ReportLeftOut(kind, leftOut);
 }
 
 #endif

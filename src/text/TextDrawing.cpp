@@ -71,7 +71,7 @@ int OSDText::DrawText(const tagFrameBuffObject* fbo, const tagTextInfo* info, fl
         __android_log_print(LogError, textTag, "get font alpha texture fail %d\n", code);
         return code;
     }
-    const GLenum unit = IsDrawStandardFont(info) ? standardAtlasUnit : styledAtlasUnit;
+    const GLenum unit = IsDrawStandardFont(info) ? standardAtlas.unit : styledAtlas.unit;
     BindTarget(fbo->framebuffer, fbo->width, fbo->height);
     glUseProgram(program);
     EnableBlending();
@@ -133,7 +133,7 @@ size_t OSDText::PlaceGlyphs(const char16_t* text, unsigned int length, float x, 
     const float texHeight = static_cast<float>(fontTexHeight);
     const float pixelX = scaleX;
     const float pixelY = scaleY;
-    size_t count = 0;
+    Vertex* quad = vertices;
     for (unsigned int i = 0; i < length; ++i) {
         const tagGlyphInfo* glyph = FindShown(standard, text[i]);
         if (glyph == nullptr) {
@@ -152,10 +152,10 @@ size_t OSDText::PlaceGlyphs(const char16_t* text, unsigned int length, float x, 
         const float bottom = top - glyph->bitmapHeight * pixelY;
         const float s1 = glyph->texX + glyph->bitmapWidth / texWidth;
         const float t1 = glyph->texY + glyph->bitmapHeight / texHeight;
-        WriteGlyphQuad(left, right, top, bottom, *glyph, s1, t1, vertices + count);
-        count += verticesPerUnit;
+        WriteGlyphQuad(left, right, top, bottom, *glyph, s1, t1, quad);
+        quad += verticesPerUnit;
         x += glyph->advanceX * pixelX;
         y += glyph->advanceY * pixelY;
     }
-    return count;
+    return static_cast<size_t>(quad - vertices);
 }

@@ -1,0 +1,183 @@
+#include "TextFixture.h"
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <numeric>
+
+using Bytes = std::vector<unsigned char>;
+
+namespace {
+
+class GlyphAtlasGLTest : public TextFixture {
+protected:
+    // White text on black shows the coverage that was uploaded.
+    Bytes Uploaded(const Style& style, int columns, int rows) {
+        const Image image = Drawn(u"A", style);
+        Bytes coverage;
+        for (int i = 0; i < columns * rows; ++i) {
+            coverage.push_back(image.At(10 + i % columns, 60 - rows + i / columns)[0]);
+        }
+        return coverage;
+    }
+
+    // To within one step: blending rounds.
+    void ExpectNear(const Bytes& actual, const Bytes& expected) const {
+        for (size_t i = 0; i < expected.size(); ++i) {
+            EXPECT_NEAR(actual[i], expected[i], 1) << i;
+        }
+    }
+};
+
+} // namespace
+
+TEST_F(GlyphAtlasGLTest, PlacesAndRecordsWhatFits) {
+    constexpr int untold = -1;
+    const std::vector<FakeGlyph> example = {{65, 500, 40}, {66, 500, 45}, {67, 30, 20}};
+    const std::vector<FakeGlyph> failing = {
+        {65, 10, 8}, {66, 10, 9, 0, 0, 0, 0, {}, true}, {0x1F600, 10, 7}};
+    const std::vector<FakeGlyph> tall = {{65, 1000, 600}, {66, 1000, 600}, {67, 1000, 600}};
+    const std::vector<FakeGlyph> huge = {{65, 1, 1500}, {66, 1501, 2}, {67, 2, 1501}, {68, 3, 3}};
+    const std::string failed = "Loading character 66 failed!\n";
+    const std::string oneOut = "1 characters do not fit the largest texture\n";
+    const std::string twoOut = "2 characters do not fit the largest texture\n";
+    const struct {
+        std::vector<FakeGlyph> glyphs;
+        std::optional<int> limit; ///< largest texture side
+        std::string size;
+        std::string cells;
+        std::vector<std::string> errors;
+    } cases[] = {
+        {example, {}, "1002 x 65 (63 kb)", " 65:0,0 66:501,0 67:0,45", {}},
+        {{{65, 1022, 100}}, {}, "1023 x 100 (99 kb)", " 65:0,0", {}},
+        {failing, {}, "22 x 8 (0 kb)", " 65:0,0 128512:11,0", {failed, failed}},
+        {tall, 1500, "1001 x 1500 (1466 kb)", " 65:0,0 66:0,600", {oneOut}},
+        {{{65, 200, 100}, {66, 200, 100}}, 256, "256 x 100 (25 kb)", " 65:0,0", {oneOut}},
+        {huge, 1500, "6 x 1500 (8 kb)", " 65:0,0 68:2,0", {twoOut}},
+        {tall, untold, "1001 x 1800 (1759 kb)", " 65:0,0 66:0,600 67:0,1200", {}},
+    };
+    for (const auto& c : cases) {
+        UseFakeFont(c.glyphs);
+        harness::Current().maxTextureSize = c.limit;
+        for (int i = 1; c.limit == untold && i <= 50; ++i) {
+            harness::FailCall("glGetIntegerv", i);
+        }
+        EXPECT_EQ(surface->ZoLoadFont(sansPath, 40), ZO_SUCCESS);
+        Log log;
+        for (const std::string& error : c.errors) {
+            log.push_back({6, "FontAtlas", error});
+        }
+        log.push_back({5, "FontAtlas", "Generated a " + c.size + " texture atlas\n"});
+        EXPECT_EQ(harness::TakeLog(), log);
+        const FontAtlas& atlas = *surface->fontAtlas;
+        const unsigned int columns = atlas.GetFontTextureWidth();
+        const unsigned int rows = atlas.GetFontTextureHeight();
+        EXPECT_EQ(c.size.find(std::to_string(columns) + " x " + std::to_string(rows) + ' '), 0u);
+        std::ostringstream cells;
+        for (const auto& [code, glyph] : atlas.GetGlyphs()) {
+            cells << ' ' << code << ':' << std::round(glyph.texX * static_cast<float>(columns))
+                  << ',' << std::round(glyph.texY * static_cast<float>(rows));
+        }
+        EXPECT_EQ(cells.str(), c.cells);
+        harness::Current().faults.clear();
+    }
+}
+
+TEST_F(GlyphAtlasGLTest, WithoutAMarkOrWithoutMemoryThereIsNoTexture) {
+    const size_t textures = harness::Current().live["texture"].size();
+    UseFakeFont({{32, 0, 0, 0, 0, 12}, {33, 5, 0}});
+    EXPECT_EQ(surface->ZoLoadFont(sansPath, 40), ZO_FONT_ATLAS_EMPTY);
+    EXPECT_EQ(harness::TakeLog(),
+              Errors({{"FontAtlas", "Calculate texture width 7d, height 0d\n"},
+                      {"ZoGLDrawSurface", "Load standard font lib fail 32\n"}}));
+    // A driver may have no memory for the largest texture that it knows.
+    UseFakeFont({{65, 1000, 1200}, {66, 1000, 1200}});
+    harness::Current().maxTextureSize = 2048;
+    harness::Current().glError = GL_OUT_OF_MEMORY;
+    EXPECT_EQ(surface->ZoLoadFont(sansPath, 40), ZO_FAILURE);
+    harness::Current().glError.reset();
+    EXPECT_EQ(harness::TakeLog(),
+              Errors({{"FontAtlas", "Create texture fail\n"},
+                      {"ZoGLDrawSurface", "Load standard font lib fail 100\n"}}));
+    EXPECT_EQ(harness::Current().live["texture"].size(), textures);
+    EXPECT_TRUE(surface->fontAtlas->GetGlyphs().empty());
+}
+
+TEST_F(GlyphAtlasGLTest, AnyRefusedAllocationIsReported) {
+    UseFakeFont({{65, 4, 3}, {0x141, 4, 3}, {0x1F600, 4, 3}});
+    int refusals = -1;
+    for (int code = ZO_FAILURE; code != ZO_SUCCESS;) {
+        surface->osdText.reset();
+        surface->fontAtlas.reset();
+        surface->fontStyleAtlas.reset();
+        harness::TakeLog();
+        harness::RefuseAllocation(++refusals + 1);
+        code = surface->ZoLoadFont(sansPath, 40);
+        const bool isHalfMade =
+            code != ZO_SUCCESS && surface->fontAtlas && surface->fontAtlas->GetFontTexture() != 0;
+        EXPECT_FALSE(isHalfMade);
+        code = code == ZO_SUCCESS ? Draw(u"A\u0141", {20}) : code;
+        harness::RefuseAllocation(0);
+        EXPECT_TRUE(code == ZO_SUCCESS || code == ZO_FAILURE || code == ZO_PROGRAM_FAILED) << code;
+        EXPECT_GE(harness::TakeLog().size(), 1u);
+        EXPECT_LE(harness::Current().live["FreeType library"].size(), 1u) << "the styled atlas's";
+    }
+    EXPECT_GE(refusals, 5) << "atlases, maps, renderer and program each take memory";
+}
+
+TEST_F(GlyphAtlasGLTest, RepacksRowsWhateverTheirPitch) {
+    const Bytes expected = {10, 20, 30, 40, 50, 60, 70, 80, 90};
+    const FakeGlyph cases[] = {
+        {65, 3, 3, 0, 3, 3, 3, expected},
+        {65, 3, 3, 0, 3, 3, 5, {10, 20, 30, 1, 2, 40, 50, 60, 3, 4, 70, 80, 90}},
+        {65, 3, 3, 0, 3, 3, -3, {70, 80, 90, 40, 50, 60, 10, 20, 30}},
+        {65, 3, 3, 0, 3, 3, -4, {70, 80, 90, 1, 40, 50, 60, 2, 10, 20, 30, 3}},
+    };
+    for (const FakeGlyph& glyph : cases) {
+        SCOPED_TRACE(glyph.pitch);
+        UseFakeFont({glyph});
+        Load();
+        ExpectNear(Uploaded({}, 3, 3), expected);
+        ExpectNear(Uploaded({41}, 3, 3), expected);
+    }
+}
+
+// Fonts of 1, 2, 4 and 8 bits a pixel, which FreeType delivers as stored.
+TEST_F(GlyphAtlasGLTest, StretchesStrikesToFullCoverage) {
+    const struct {
+        int depth;
+        const char* rows;
+        Bytes coverage;
+    } cases[] = {
+        {1, "A4\n03", {255, 0, 255, 0, 0, 255, 0, 0, 0, 0, 0, 0, 0, 0, 255, 255}},
+        {2, "1B00\n0003", {0, 85, 170, 255, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 255}},
+        {4, "0123000F\n80000000", {0, 17, 34, 51, 0, 0, 0, 255, 136, 0, 0, 0, 0, 0, 0, 0}},
+        {8, "0001807F000000FF\n02", {0, 1, 128, 127, 0, 0, 0, 255, 2, 0, 0, 0, 0, 0, 0, 0}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.depth);
+        const std::string path = ::testing::TempDir() + "zogles_strike.bdf";
+        std::filesystem::remove(path);
+        std::ofstream(path) << "STARTFONT 2.1\nFONT -t-t-r-r-r--8-80-75-75-c-80-ISO10646-1\n"
+                            << "SIZE 8 75 75 " << c.depth << "\nFONTBOUNDINGBOX 8 8 0 0\n"
+                            << "STARTPROPERTIES 5\nPIXEL_SIZE 8\nFONT_ASCENT 8\nFONT_DESCENT 0\n"
+                            << "CHARSET_REGISTRY \"ISO10646\"\nCHARSET_ENCODING \"1\"\n"
+                            << "ENDPROPERTIES\nCHARS 1\nSTARTCHAR A\nENCODING 65\nSWIDTH 1000 0\n"
+                            << "DWIDTH 8 0\nBBX 8 2 0 0\nBITMAP\n"
+                            << c.rows << "\nENDCHAR\nENDFONT\n";
+        Load(path.c_str(), 8);
+        const Bytes plain = Uploaded({}, 8, 2);
+        ExpectNear(plain, c.coverage);
+        // Strokes that are a pixel heavier keep every mark where it is and add to it.
+        const Bytes bold = Uploaded({8, true}, 8, 2);
+        for (size_t i = 0; i < plain.size(); ++i) {
+            EXPECT_GE(bold[i] + 1, plain[i]) << i;
+        }
+        EXPECT_GT(std::accumulate(bold.begin(), bold.end(), 0),
+                  std::accumulate(plain.begin(), plain.end(), 255));
+        const tagGlyphInfo& glyph = surface->fontStyleAtlas->GetGlyphs().at(u'A');
+        EXPECT_EQ(glyph.advanceX, 8.0f);
+        EXPECT_EQ(glyph.bitmapTop - glyph.bitmapHeight, 0.0f) << "on the baseline still";
+        std::filesystem::remove(path);
+    }
+}

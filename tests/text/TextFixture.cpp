@@ -1,0 +1,65 @@
+#include "TextFixture.h"
+
+#include <algorithm>
+
+void TextFixture::SetUp() {
+    SurfaceFixture::SetUp();
+    Bind();
+    buffer = CreateBuffer(width, height);
+}
+
+void TextFixture::Load(const char* path, unsigned int size) {
+    ASSERT_EQ(surface->ZoLoadFont(path, size), ZO_SUCCESS);
+    harness::TakeLog();
+}
+
+void TextFixture::Fill(const Pixel& color) {
+    const tagZoRectInfo all = {0, 0, width, height};
+    const tagZoColorRGBA fill = {color[0], color[1], color[2], color[3]};
+    ASSERT_EQ(surface->ZoDrawRect(buffer, &all, &fill), ZO_SUCCESS);
+}
+
+tagZoTextInfo TextFixture::Request(std::u16string_view text, const Style& style) const {
+    tagZoTextInfo info = {};
+    info.text = text.data();
+    info.length = static_cast<unsigned int>(text.size());
+    info.color = style.color;
+    info.fontSize = style.size;
+    info.bold = style.isBold ? 1 : 0;
+    info.italic = style.isItalic ? 1 : 0;
+    return info;
+}
+
+int TextFixture::Draw(std::u16string_view text, const Style& style, unsigned int x,
+                      unsigned int y) {
+    const tagZoTextInfo info = Request(text, style);
+    const tagZoRectInfo rect = {x, y, 1, 1};
+    return surface->ZoDrawText(buffer, &info, &rect);
+}
+
+Image TextFixture::Drawn(std::u16string_view text, const Style& style) {
+    Fill({});
+    EXPECT_EQ(Draw(text, style), ZO_SUCCESS);
+    return Read(buffer);
+}
+
+::testing::AssertionResult TextFixture::Shows(std::u16string_view text, const Style& style,
+                                              const char* path, int x, int y,
+                                              const Pixel& background) {
+    const Image shown = Read(buffer);
+    Image expected = shown;
+    std::fill(expected.pixels.begin(), expected.pixels.end(), background);
+    ReferenceFont(path).Blend(expected, text, style, x, y);
+    // The driver rounds coverage when it samples and again as it blends.
+    constexpr int tolerance = 2;
+    return Matches(
+        shown, [&](int column, int row) { return expected.At(column, row); }, tolerance);
+}
+
+Log TextFixture::Errors(const std::vector<std::pair<const char*, std::string>>& lines) const {
+    Log log;
+    for (const auto& [tag, text] : lines) {
+        log.push_back({6, tag, text});
+    }
+    return log;
+}

@@ -1,0 +1,97 @@
+#include "TextFixture.h"
+
+namespace {
+
+class TextPixelsGLTest : public TextFixture {
+protected:
+    int Ink(const Image& image) const {
+        int sum = 0;
+        for (const Pixel& pixel : image.pixels) {
+            sum += pixel[0];
+        }
+        return sum;
+    }
+};
+
+} // namespace
+
+TEST_F(TextPixelsGLTest, AreFreeTypesOwnBlendedByTheFormula) {
+    Load();
+    const struct {
+        const char* name;
+        std::u16string_view text;
+        Style style;
+        unsigned int x, y;
+    } cases[] = {
+        {"standard", u"Ag j\u00A7W", {}, 10, 60},
+        {"half transparent", u"AVW@g", {40, false, false, {255, 0, 30, 128}}, 10, 60},
+        {"1 is full intensity", u"fi1", {40, false, false, {1, 0, 1, 1}}, 10, 60},
+        {"faint", u"MMM", {40, false, false, {200, 200, 200, 2}}, 10, 60},
+        {"above the target", u"gjpq\u00C7", {}, 10, 0},
+        {"past the right edge", u"WWWW", {}, 190, 60},
+        {"past the bottom edge", u"gggg", {}, 20, 127},
+        {"small", u"The quick brown \u0141", {12, false, false, {0, 255, 0, 255}}, 3, 40},
+        {"italic", u"fHl/j", {31, false, true, {255, 255, 2, 255}}, 10, 60},
+        {"upright after italic", u"fHl/j", {32}, 10, 60},
+        {"bold", u"HgM@", {40, true}, 10, 60},
+        {"bold italic", u"HgM@jf", {27, true, true, {90, 80, 250, 100}}, 10, 60},
+        {"plain after bold, size 0 like 40", u"HgM@", {0}, 10, 60},
+        {"large", u"Qy", {96, false, true}, 20, 90},
+    };
+    for (const auto& c : cases) {
+        for (const Pixel& background : {Pixel{30, 60, 200, 255}, Pixel{}}) {
+            SCOPED_TRACE(c.name + std::string(" over alpha ") + std::to_string(background[3]));
+            Fill(background);
+            ASSERT_EQ(Draw(c.text, c.style, c.x, c.y), ZO_SUCCESS);
+            EXPECT_TRUE(Shows(c.text, c.style, sansPath, static_cast<int>(c.x),
+                              static_cast<int>(c.y), background));
+        }
+    }
+    buffer = ZO_WINDOW_HANDLE;
+    Drawn(u"Window");
+    EXPECT_TRUE(Shows(u"Window", {}));
+}
+
+TEST_F(TextPixelsGLTest, BoldIsHeavierAtEverySizeAndCutsNothing) {
+    Load();
+    const FontStyleAtlas& atlas = *surface->fontStyleAtlas;
+    for (const unsigned int size : {12U, 20U, 40U, 96U}) {
+        for (const std::u16string_view text : {u"H", u"g", u"M", u"i", u"j", u"@"}) {
+            SCOPED_TRACE(std::to_string(size) + static_cast<char>(text[0]));
+            const int plainInk = Ink(Drawn(text, {size, false, true}));
+            const tagGlyphInfo plain = atlas.GetGlyphs().at(text[0]);
+            const int boldInk = Ink(Drawn(text, {size, true, true}));
+            const tagGlyphInfo& bold = atlas.GetGlyphs().at(text[0]);
+            EXPECT_GT(boldInk, plainInk + plainInk / 20);
+            EXPECT_TRUE(Shows(text, {size, true, true}));
+            EXPECT_EQ(bold.advanceX, plain.advanceX);
+            // A pixel more each way, give or take where it falls, and the texture has room for it.
+            EXPECT_NEAR(bold.bitmapWidth, plain.bitmapWidth + 1, 1);
+            EXPECT_NEAR(bold.bitmapHeight, plain.bitmapHeight + 1, 1);
+            EXPECT_EQ(static_cast<float>(atlas.GetFontTextureWidth()), bold.bitmapWidth + 1);
+            EXPECT_EQ(static_cast<float>(atlas.GetFontTextureHeight()), bold.bitmapHeight);
+        }
+    }
+}
+
+TEST_F(TextPixelsGLTest, AWholeFontIsThereAndMeasuredByItsOwnMetrics) {
+    Load(sansPath, 25);
+    ReferenceFont font(sansPath);
+    std::u16string everything;
+    for (unsigned long code = 1; code < 0x20000; ++code) {
+        ASSERT_EQ(surface->fontAtlas->GetGlyphs().count(code) != 0, font.Maps(code)) << code;
+        if (code <= 0xFFFF && (font.Maps(code) || code % 64 == 0)) {
+            everything += static_cast<char16_t>(code);
+        }
+    }
+    for (const Style& style : {Style{40}, Style{96, true, true}}) {
+        for (size_t i = 0; i < everything.size(); i += 100) {
+            const std::u16string text = everything.substr(i, 100);
+            const tagZoTextInfo info = Request(text, style);
+            unsigned int size[] = {0, 0};
+            ASSERT_EQ(surface->ZoGetTextSize(&info, &size[0], &size[1]), ZO_SUCCESS);
+            EXPECT_EQ(size[0], font.Measure(text, 25)) << i;
+            EXPECT_EQ(size[1], 50u);
+        }
+    }
+}
