@@ -152,7 +152,7 @@ struct TagFboInfo {
 class ZOGLES_API ZoGLDrawSurface {
 public:
     /// Makes an unbound surface of 1920 by 1080 pixels. Makes no EGL call.
-    ZoGLDrawSurface() noexcept;
+    ZoGLDrawSurface();
 
     /// Releases EGL and everything the surface owns. Makes no EGL call if it was never bound.
     ~ZoGLDrawSurface();
@@ -168,28 +168,28 @@ public:
     /// @param window stays the client's, who keeps it alive until it is let go of
     /// @return ZO_SUCCESS, ZO_NO_DISPLAY to ZO_NO_WINDOW_SURFACE, ZO_INVALID_PARAM for a null
     ///     window, or ZO_FAILURE when the context cannot be made current
-    int ZoCreateGLWindowSurface(ANativeWindow* window) noexcept;
+    int ZoCreateGLWindowSurface(ANativeWindow* window);
 
     /// Lets go of the window: releases EGL and drops every component, font and buffer. The buffers'
     /// handles and sizes are kept for the next binding.
-    void ZoDestoryGLWindowSurface() noexcept;
+    void ZoDestoryGLWindowSurface();
 
     /// Creates the components whose `ZoComponent` bits are set and which do not exist yet, so that
     /// no later operation has to. Other bits are ignored. Stops at the first failure and keeps what
     /// was created before it.
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_PROGRAM_FAILED, a font code (30 to 32) or ZO_FAILURE
-    int Init(unsigned int flags) noexcept;
+    int Init(unsigned int flags);
 
     /// Shows what was drawn on the window since the last call.
     /// @return ZO_SUCCESS, or ZO_NO_EGL_MANAGER when no window is bound
-    int ZoRefreshOnSrceen() const noexcept;
+    int ZoRefreshOnSrceen() const;
 
     /// Window width in pixels: 1920 before the first binding, then the last one that EGL told.
-    unsigned int ZoGetWindowWidth() const noexcept;
+    unsigned int ZoGetWindowWidth() const;
 
     /// Window height in pixels: 1080 before the first binding, then the last one that EGL told.
-    unsigned int ZoGetWindowHeight() const noexcept;
+    unsigned int ZoGetWindowHeight() const;
 
     /// Creates an off-screen buffer, transparent black all over.
     /// @param handle receives the new buffer's handle; untouched on failure
@@ -198,14 +198,13 @@ public:
     /// @param format ZO_FORMAT_RGBA8888; any other value is logged and taken as that
     /// @return ZO_SUCCESS, ZO_NO_FREE_FBO, ZO_INVALID_PARAM for a null pointer, or ZO_FAILURE when
     ///     no window is bound
-    int ZoCreateGLFBO(unsigned int* handle, unsigned int width, unsigned int height,
-                      int format) noexcept;
+    int ZoCreateGLFBO(unsigned int* handle, unsigned int width, unsigned int height, int format);
 
     /// Destroys an off-screen buffer. An unknown handle is logged and changes nothing; the window
     /// handle counts as unknown.
     /// @return ZO_SUCCESS, or ZO_NO_FBO_MANAGER while there is no pool of buffers, that is, mostly,
     ///     while no window is bound; the buffer comes back with the next binding then
-    int ZoDestoryGLFBO(unsigned int handle) noexcept;
+    int ZoDestoryGLFBO(unsigned int handle);
 
     /// Fills a rectangle of a target. Colour and alpha replace what was there: alpha 0 erases.
     /// @param fbo handle of a buffer, or ZO_WINDOW_HANDLE
@@ -213,8 +212,7 @@ public:
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer or an unknown handle,
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
-    int ZoDrawRect(unsigned int fbo, const tagZoRectInfo* rect,
-                   const tagZoColorRGBA* color) noexcept;
+    int ZoDrawRect(unsigned int fbo, const tagZoRectInfo* rect, const tagZoColorRGBA* color);
 
     /// Copies a region of one buffer into a region of another, scaled linearly when the two differ
     /// in size. Colour and alpha replace what was there. Source and destination may be the same
@@ -223,7 +221,7 @@ public:
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer or an unknown handle,
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
-    int ZoBlit(const tagZoBlitInfo* info) noexcept;
+    int ZoBlit(const tagZoBlitInfo* info);
 
     /// Clears the whole window to transparent black and draws a region of a buffer on it, blended:
     /// a pixel (r, g, b, a) lands as (r*a, g*a, b*a, a*a). The call replaces everything that was
@@ -234,14 +232,14 @@ public:
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer or an unknown handle,
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
-    int ZoDisplayFBO(unsigned int fbo, const tagZoRectInfo* src, const tagZoRectInfo* dst) noexcept;
+    int ZoDisplayFBO(unsigned int fbo, const tagZoRectInfo* src, const tagZoRectInfo* dst);
 
     /// Clears the whole window to transparent black and draws client pixels on it, blended as by
     /// `ZoDisplayFBO`. Uploads the pixels at every call; nothing is kept.
     /// @pre the surface is bound; `info->data` holds width * height * 4 bytes, or is null for a
     ///     bitmap without defined content
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, ZO_PROGRAM_FAILED or ZO_FAILURE
-    int ZoDisplayBitmap(const tagZoBitmapInfo* info) noexcept;
+    int ZoDisplayBitmap(const tagZoBitmapInfo* info);
 
     /// Loads a font file for all text drawn from now on. Without it, the first text operation loads
     /// the platform's default font at 40 pixels. A loaded font is dropped with the window.
@@ -251,7 +249,7 @@ public:
     ///     italic) and for measuring; 0 means 40
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null path, a font code (30 to 32) or ZO_FAILURE
-    int ZoLoadFont(const char* path, unsigned int size) noexcept;
+    int ZoLoadFont(const char* path, unsigned int size);
 
     /// Measures a text in pixels at the standard size, whatever size or style it asks for: the sum
     /// of its units' advances, with 30 for each unit that the font cannot show (a space, a line
@@ -260,8 +258,7 @@ public:
     /// @pre the surface is bound if no text operation came before
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, a font code (30 to 32),
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
-    int ZoGetTextSize(const tagZoTextInfo* info, unsigned int* width,
-                      unsigned int* height) noexcept;
+    int ZoGetTextSize(const tagZoTextInfo* info, unsigned int* width, unsigned int* height);
 
     /// Draws one line of text, blended over what the target holds. Units that the font cannot show
     /// (a space, a line feed) are logged and take no room.
@@ -271,8 +268,7 @@ public:
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, an unknown handle or a target of
     ///     size 0, a font code (30 to 32), ZO_PROGRAM_FAILED or ZO_FAILURE
-    int ZoDrawText(unsigned int handle, const tagZoTextInfo* info,
-                   const tagZoRectInfo* rect) noexcept;
+    int ZoDrawText(unsigned int handle, const tagZoTextInfo* info, const tagZoRectInfo* rect);
 
 private:
     static constexpr int fboInfoCount = 16;
@@ -293,7 +289,7 @@ private:
 
     // Buffer handles and the table that outlives the context.
     int CreatePool();
-    int EnsurePool();
+    int EnsurePool() { return fboManager ? ZO_SUCCESS : CreatePool(); }
     int FindTarget(unsigned int handle, tagFrameBuffObject* target);
     int ResetFboSource();
     void FBOManagerInit(unsigned int flags);

@@ -18,8 +18,8 @@ inline GLuint GenerateTexture(GLenum unit) {
 /// Gives the bound texture its storage, one byte a channel.
 /// @param pixels in rows from t = 0 upwards, or null for storage without defined content
 inline void AllocateTexture(GLenum format, GLsizei width, GLsizei height, const void* pixels) {
-    // Drivers refuse a size past their limit, but some crash over one past 2^30. No driver's limit
-    // is near this one, so what is cut here is refused all the same.
+    // Drivers refuse a size past their limit, but Mesa's software driver crashes over one of 2^28
+    // and more. No driver's limit is near 2^20, so what is cut here is refused all the same.
     constexpr GLsizei beyondAllLimits = 1 << 20;
     glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(format), std::min(width, beyondAllLimits),
                  std::min(height, beyondAllLimits), 0, format, GL_UNSIGNED_BYTE, pixels);

@@ -72,7 +72,7 @@ int ZoGLDrawSurface::OSDBitmapInit(unsigned int flags) {
     return InstallComponent(osdBitmap, "OSD bitmap fail %d\n");
 }
 
-int ZoGLDrawSurface::ZoDisplayBitmap(const tagZoBitmapInfo* info) noexcept {
+int ZoGLDrawSurface::ZoDisplayBitmap(const tagZoBitmapInfo* info) {
     if (info == nullptr) {
         return RefuseNull();
     }

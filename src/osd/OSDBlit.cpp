@@ -28,21 +28,18 @@ int OSDBlit::Init() {
 
 void OSDBlit::Blit(const tagBlitInfo* info) const {
     GLuint texture = info->src.texture;
-    const tagRectInfo* texRect = &info->srcRect;
-    RegionCopy copy;
     const bool isCopied = IsWithinOneBuffer(*info);
     if (isCopied) {
-        if (!CopyRegion(info->src, info->srcRect, &copy)) {
+        texture = CopyRegion(info->src, info->srcRect);
+        if (texture == 0) {
             __android_log_print(LogError, tag, "Create texture fail\n");
             return;
         }
-        texture = copy.texture;
-        texRect = &copy.texRect;
     }
     BindTarget(info->dst.framebuffer, info->dst.width, info->dst.height);
     glUseProgram(program);
     BindSource(texture, texLocation);
-    BlitByDrawing(texRect, &info->dstRect);
+    BlitByDrawing(&info->srcRect, &info->dstRect);
     glBindTexture(GL_TEXTURE_2D, 0);
     UnbindTarget();
     if (isCopied) {
@@ -65,7 +62,7 @@ int ZoGLDrawSurface::OSDBlitInit(unsigned int flags) {
     return InstallComponent(osdBlit, "OSD blit init fail %d\n");
 }
 
-int ZoGLDrawSurface::ZoBlit(const tagZoBlitInfo* info) noexcept {
+int ZoGLDrawSurface::ZoBlit(const tagZoBlitInfo* info) {
     if (info == nullptr) {
         return RefuseNull();
     }

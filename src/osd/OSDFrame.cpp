@@ -41,7 +41,7 @@ int ZoGLDrawSurface::OSDFrameInit(unsigned int flags) {
 }
 
 int ZoGLDrawSurface::ZoDisplayFBO(unsigned int fbo, const tagZoRectInfo* src,
-                                  const tagZoRectInfo* dst) noexcept {
+                                  const tagZoRectInfo* dst) {
     if (src == nullptr || dst == nullptr) {
         return RefuseNull();
     }

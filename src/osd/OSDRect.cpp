@@ -68,7 +68,7 @@ int ZoGLDrawSurface::OSDRectInit(unsigned int flags) {
 }
 
 int ZoGLDrawSurface::ZoDrawRect(unsigned int fbo, const tagZoRectInfo* rect,
-                                const tagZoColorRGBA* color) noexcept {
+                                const tagZoColorRGBA* color) {
     if (rect == nullptr || color == nullptr) {
         return RefuseNull();
     }

@@ -11,8 +11,9 @@
 ///
 /// The environment variable ANDROID_LOG_TAGS, read at the first call, says what is shown: entries
 /// "tag:priority" set apart by blanks or commas, where the priority is the least one shown (one of
-/// V D I W E F, or S for none) and the tag * stands for every tag not named. Of two entries for one
-/// tag the later holds. The default is "*:V". A message that is not shown is not formatted.
+/// V D I W E F or its number, or S for none) and the tag * stands for every tag not named. Of two
+/// entries for one tag the later holds; one whose priority is none of these is passed over. The
+/// default is "*:V". A message that is not shown is not formatted.
 ///
 /// Messages longer than 4,000 bytes are cut.
 /// @return the number of bytes written, 0 for a message not shown, or a negative number
@@ -21,7 +22,15 @@ __android_log_print(int prio, const char* tag, const char* fmt, ...);
 
 #endif
 
-/// The priorities that the library uses, with the platform's numbers.
-enum LogPriority : int { LogVerbose = 2, LogWarning = 5, LogError = 6 };
+/// The priorities, with the platform's numbers. The library logs at verbose, warning and error.
+enum LogPriority : int {
+    LogVerbose = 2,
+    LogDebug = 3,
+    LogInfo = 4,
+    LogWarning = 5,
+    LogError = 6,
+    LogFatal = 7,
+    LogSilent = 8, ///< for filters: nothing is logged at it
+};
 
 #endif

@@ -1,46 +1,48 @@
 #include "platform/LogFilter.h"
 
+#include "platform/Log.h"
+
 #include <cstring>
 
 namespace {
 
 constexpr char separators[] = " \t\n,";
 
-// The platform's numbers, from "verbose" to "silent".
-constexpr int priorityVerbose = 2;
-constexpr int priorityDebug = 3;
-constexpr int prioritySilent = 8;
+constexpr int noPriority = 0;
 
-// An entry without a priority, or with one that is none, yields the value that the platform takes
-// for a bare tag.
-int LeastPriority(const char* colon, const char* end, int bare) {
-    if (colon == end || colon + 1 == end) {
+// A priority is a letter of either case, or its number, or a * for the one that a bare tag means;
+// from silent on, a number means verbose, as the platform has it.
+int PriorityOf(char letter, int bare) {
+    if (letter == '*') {
         return bare;
     }
-    switch (colon[1] | 0x20) { // lower case, for letters
+    if (letter >= '0' && letter <= '9') {
+        return letter - '0' < LogSilent ? letter - '0' : LogVerbose;
+    }
+    switch (letter | 0x20) { // lower case
     case 'v':
-        return priorityVerbose;
+        return LogVerbose;
     case 'd':
-        return priorityDebug;
+        return LogDebug;
     case 'i':
-        return 4;
+        return LogInfo;
     case 'w':
-        return 5;
+        return LogWarning;
     case 'e':
-        return 6;
+        return LogError;
     case 'f':
-        return 7;
+        return LogFatal;
     case 's':
-        return prioritySilent;
+        return LogSilent;
     default:
-        return bare;
+        return noPriority;
     }
 }
 
 } // namespace
 
 LogFilter::LogFilter(const char* expression)
-    : leastOfOthers(priorityVerbose), ruleCount(0), textLength(0), rules(), text() {
+    : leastOfOthers(LogVerbose), ruleCount(0), textLength(0), rules(), text() {
     if (expression == nullptr) {
         return;
     }
@@ -57,24 +59,38 @@ void LogFilter::AddEntry(const char* entry, size_t length) {
     const char* found = static_cast<const char*>(memchr(entry, ':', length));
     const char* colon = found == nullptr ? end : found;
     const size_t tagLength = static_cast<size_t>(colon - entry);
-    if (tagLength == 1 && *entry == '*') {
-        leastOfOthers = LeastPriority(colon, end, priorityDebug);
+    const bool isForOthers = tagLength == 1 && *entry == '*';
+
+    // A bare tag shows all of its messages; a bare * leaves verbose ones out.
+    int least = isForOthers ? LogDebug : LogVerbose;
+    if (colon != end) {
+        least = colon + 1 == end ? noPriority : PriorityOf(colon[1], least);
+    }
+    if (least == noPriority) {
         return;
     }
+    if (isForOthers) {
+        leastOfOthers = least;
+    } else {
+        AddRule(entry, tagLength, least);
+    }
+}
+
+void LogFilter::AddRule(const char* tag, size_t tagLength, int least) {
     if (tagLength == 0 || ruleCount == maxRules || tagLength >= maxText - textLength) {
         return;
     }
-    char* tag = text + textLength;
-    memcpy(tag, entry, tagLength);
+    char* copy = text + textLength;
+    memcpy(copy, tag, tagLength);
     textLength += tagLength + 1; // the table starts zeroed, so the terminator is there
-    rules[ruleCount++] = {tag, LeastPriority(colon, end, priorityVerbose)};
+    rules[ruleCount++] = {copy, least};
 }
 
 bool LogFilter::Shows(int priority, const char* tag) const {
     for (size_t i = ruleCount; i > 0; --i) { // of two entries for one tag the later holds
         if (strcmp(rules[i - 1].tag, tag) == 0) {
-            return priority >= rules[i - 1].least && rules[i - 1].least < prioritySilent;
+            return priority >= rules[i - 1].least && rules[i - 1].least < LogSilent;
         }
     }
-    return priority >= leastOfOthers && leastOfOthers < prioritySilent;
+    return priority >= leastOfOthers && leastOfOthers < LogSilent;
 }

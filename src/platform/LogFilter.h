@@ -23,6 +23,7 @@ private:
     };
 
     void AddEntry(const char* entry, size_t length);
+    void AddRule(const char* tag, size_t tagLength, int least);
 
     static constexpr size_t maxRules = 32;
     static constexpr size_t maxText = 1024;

@@ -18,13 +18,9 @@ int ZoGLDrawSurface::CreatePool() {
     return ZO_SUCCESS;
 }
 
-int ZoGLDrawSurface::EnsurePool() {
-    return fboManager ? ZO_SUCCESS : CreatePool();
-}
-
 // Copies the target that an operation names, or logs why there is none.
 int ZoGLDrawSurface::FindTarget(unsigned int handle, tagFrameBuffObject* target) {
-    int code = fboManager ? ZO_SUCCESS : CreatePool();
+    int code = EnsurePool();
     if (code == ZO_SUCCESS) {
         code = ZeroRecord(target);
     }
@@ -36,7 +32,7 @@ int ZoGLDrawSurface::FindTarget(unsigned int handle, tagFrameBuffObject* target)
 }
 
 int ZoGLDrawSurface::ZoCreateGLFBO(unsigned int* handle, unsigned int width, unsigned int height,
-                                   int format) noexcept {
+                                   int format) {
     if (handle == nullptr) {
         __android_log_print(LogError, surfaceTag, "param is invalid\n");
         return ZO_INVALID_PARAM;
@@ -65,7 +61,7 @@ int ZoGLDrawSurface::ZoCreateGLFBO(unsigned int* handle, unsigned int width, uns
     return ZO_SUCCESS;
 }
 
-int ZoGLDrawSurface::ZoDestoryGLFBO(unsigned int handle) noexcept {
+int ZoGLDrawSurface::ZoDestoryGLFBO(unsigned int handle) {
     if (!fboManager) {
         __android_log_print(LogError, surfaceTag, "FBO manager is nullptr\n");
         return ZO_NO_FBO_MANAGER;

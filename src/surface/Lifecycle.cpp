@@ -20,7 +20,7 @@ constexpr unsigned int defaultWindowHeight = 1080;
 
 } // namespace
 
-ZoGLDrawSurface::ZoGLDrawSurface() noexcept
+ZoGLDrawSurface::ZoGLDrawSurface()
     : windowWidth(defaultWindowWidth), windowHeight(defaultWindowHeight), fontLoaded(false),
       surfaceCreated(false) {
     for (TagFboInfo& entry : fboInfo) {
@@ -32,7 +32,7 @@ ZoGLDrawSurface::~ZoGLDrawSurface() {
     ZoDestoryGLWindowSurface();
 }
 
-int ZoGLDrawSurface::ZoCreateGLWindowSurface(ANativeWindow* window) noexcept {
+int ZoGLDrawSurface::ZoCreateGLWindowSurface(ANativeWindow* window) {
     if (window == nullptr) {
         __android_log_print(LogError, surfaceTag, "native window is NULL\n");
         return ZO_INVALID_PARAM;
@@ -70,7 +70,7 @@ int ZoGLDrawSurface::ZoCreateGLWindowSurface(ANativeWindow* window) noexcept {
     return ZO_SUCCESS;
 }
 
-void ZoGLDrawSurface::ZoDestoryGLWindowSurface() noexcept {
+void ZoGLDrawSurface::ZoDestoryGLWindowSurface() {
     if (eglManager) {
         eglManager->Release();
         surfaceCreated = false;
@@ -94,7 +94,7 @@ void ZoGLDrawSurface::ResetGLSource() {
     surfaceCreated = false;
 }
 
-int ZoGLDrawSurface::Init(unsigned int flags) noexcept {
+int ZoGLDrawSurface::Init(unsigned int flags) {
     int code = osdText ? ZO_SUCCESS : OSDTextInit(flags);
     if (code == ZO_SUCCESS && !osdBlit) {
         code = OSDBlitInit(flags);
@@ -114,7 +114,7 @@ int ZoGLDrawSurface::Init(unsigned int flags) noexcept {
     return code;
 }
 
-int ZoGLDrawSurface::ZoRefreshOnSrceen() const noexcept {
+int ZoGLDrawSurface::ZoRefreshOnSrceen() const {
     if (!eglManager) {
         __android_log_print(LogError, surfaceTag, "eglManager no init\n");
         return ZO_NO_EGL_MANAGER;
@@ -123,10 +123,10 @@ int ZoGLDrawSurface::ZoRefreshOnSrceen() const noexcept {
     return ZO_SUCCESS;
 }
 
-unsigned int ZoGLDrawSurface::ZoGetWindowWidth() const noexcept {
+unsigned int ZoGLDrawSurface::ZoGetWindowWidth() const {
     return windowWidth;
 }
 
-unsigned int ZoGLDrawSurface::ZoGetWindowHeight() const noexcept {
+unsigned int ZoGLDrawSurface::ZoGetWindowHeight() const {
     return windowHeight;
 }

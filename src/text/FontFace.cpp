@@ -10,16 +10,12 @@ namespace {
 
 constexpr FT_Pos boldStrength = 64; // one pixel, in FreeType's 26.6 units
 
-FT_Error EmboldenBitmap(FT_GlyphSlot glyph) {
-    FT_Error error = FT_GlyphSlot_Own_Bitmap(glyph);
-    if (error == 0) {
-        error = FT_Bitmap_Embolden(glyph->library, &glyph->bitmap, boldStrength, boldStrength);
-    }
-    if (error == 0) {
+void EmboldenBitmap(FT_GlyphSlot glyph) {
+    if (FT_GlyphSlot_Own_Bitmap(glyph) == 0 &&
+        FT_Bitmap_Embolden(glyph->library, &glyph->bitmap, boldStrength, boldStrength) == 0) {
         // The bitmap grows upwards, as FreeType's own FT_GlyphSlot_Embolden has it.
         glyph->bitmap_top += static_cast<FT_Int>(boldStrength >> 6);
     }
-    return error;
 }
 
 } // namespace
@@ -56,16 +52,18 @@ void SetPixelSize(const char* tag, FT_Face face, unsigned int size) {
 }
 
 FT_Error LoadBoldChar(FT_Face face, FT_ULong code) {
-    FT_Error error = FT_Load_Char(face, code, FT_LOAD_DEFAULT);
+    const FT_Error error = FT_Load_Char(face, code, FT_LOAD_DEFAULT);
     if (error != 0) {
         return error;
     }
+    // What cannot be made bolder, such as an outline without area, is shown as it is.
     FT_GlyphSlot glyph = face->glyph;
-    if (glyph->format == FT_GLYPH_FORMAT_BITMAP) {
-        return EmboldenBitmap(glyph);
-    }
     if (glyph->format == FT_GLYPH_FORMAT_OUTLINE) {
-        error = FT_Outline_Embolden(&glyph->outline, boldStrength);
+        FT_Outline_Embolden(&glyph->outline, boldStrength);
+        return FT_Render_Glyph(glyph, FT_RENDER_MODE_NORMAL);
     }
-    return error == 0 ? FT_Render_Glyph(glyph, FT_RENDER_MODE_NORMAL) : error;
+    if (glyph->format == FT_GLYPH_FORMAT_BITMAP && glyph->internal != nullptr) {
+        EmboldenBitmap(glyph);
+    }
+    return 0;
 }

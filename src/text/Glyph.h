@@ -30,7 +30,7 @@ static_assert(sizeof(tagGlyphInfo) == 8 * sizeof(float));
 ///
 /// A copy costs the same however many glyphs there are: copies share one table until one of them is
 /// written to. Look-up takes a few instructions in the basic plane, whatever the font.
-/// Iterators are constant and, like references, last until the next write.
+/// Iterators are constant. They last until the next write, references until the next write or copy.
 class ZOGLES_API GlyphMap {
 public:
     using key_type = unsigned long;

@@ -17,7 +17,7 @@ constexpr unsigned int standardFontSize = 40;
 inline const tagGlyphInfo* FindShown(const GlyphMap::UnitReader& standard, char16_t unit) {
     const tagGlyphInfo* glyph = standard.Lookup(unit);
     const bool isShown =
-        glyph != nullptr && glyph->bitmapWidth > 0.0f && glyph->bitmapHeight > 0.0f;
+        glyph != nullptr && glyph->bitmapWidth != 0.0f && glyph->bitmapHeight != 0.0f;
     return isShown ? glyph : nullptr;
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <vector>
 
@@ -29,10 +30,12 @@ bool HasFewerGrays(const FT_Bitmap& bitmap) {
     return bitmap.num_grays > 1 && bitmap.num_grays < 256;
 }
 
-// A bitmap that states no pitch has no padding.
+// Rows cannot lie closer together than they are wide: such a bitmap states no pitch, and so has no
+// padding.
 bool IsTightCoverage(const FT_Bitmap& bitmap) {
+    const int width = static_cast<int>(bitmap.width);
     return !IsOtherMode(bitmap) && !HasFewerGrays(bitmap) &&
-           (bitmap.pitch == static_cast<int>(bitmap.width) || bitmap.pitch == 0);
+           (bitmap.pitch == width || std::abs(bitmap.pitch) < width);
 }
 
 // Copies 8-bit rows, top row first (a negative pitch means that the buffer starts with the bottom
@@ -66,6 +69,13 @@ struct ConvertedBitmap {
     FT_Library library;
     FT_Bitmap bitmap;
 };
+
+// Errors of earlier calls hide the next one's. There are as many flags as kinds of error.
+void ForgetGlErrors() {
+    constexpr int errorKinds = 5;
+    for (int i = 0; i < errorKinds && glGetError() != GL_NO_ERROR; ++i) {
+    }
+}
 
 // Pen advances are 26.6 fixed point; 32 bits of them count.
 float WholePixels(FT_Pos advance) {
@@ -107,9 +117,13 @@ GLuint CreateGlyphTexture(const AtlasKind& kind, unsigned int width, unsigned in
         return 0;
     }
     glBindTexture(GL_TEXTURE_2D, texture);
-    AllocateTexture(GL_ALPHA, static_cast<GLsizei>(width), static_cast<GLsizei>(height), nullptr);
     // The largest texture that the driver knows can be more than it has memory for.
-    if (TextureLimit(kind).IsReached(width, height) && glGetError() == GL_OUT_OF_MEMORY) {
+    const bool isLargest = TextureLimit(kind).IsReached(width, height);
+    if (isLargest) {
+        ForgetGlErrors();
+    }
+    AllocateTexture(GL_ALPHA, static_cast<GLsizei>(width), static_cast<GLsizei>(height), nullptr);
+    if (isLargest && glGetError() == GL_OUT_OF_MEMORY) {
         __android_log_print(LogError, kind.tag, "Create texture fail\n");
         glBindTexture(GL_TEXTURE_2D, 0);
         glDeleteTextures(1, &texture);

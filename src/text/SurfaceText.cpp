@@ -31,7 +31,7 @@ int ZoGLDrawSurface::CreateAtlases() {
     }
 }
 
-int ZoGLDrawSurface::ZoLoadFont(const char* path, unsigned int size) noexcept {
+int ZoGLDrawSurface::ZoLoadFont(const char* path, unsigned int size) {
     if (path == nullptr) {
         __android_log_print(LogError, surfaceTag, "font lib path is nullptr\n");
         return ZO_INVALID_PARAM;
@@ -73,7 +73,7 @@ int ZoGLDrawSurface::OSDTextInit(unsigned int flags) {
 }
 
 int ZoGLDrawSurface::ZoGetTextSize(const tagZoTextInfo* info, unsigned int* width,
-                                   unsigned int* height) noexcept {
+                                   unsigned int* height) {
     if (info == nullptr || width == nullptr || height == nullptr || IsTextMissing(*info)) {
         return RefuseNull();
     }
@@ -91,7 +91,7 @@ int ZoGLDrawSurface::ZoGetTextSize(const tagZoTextInfo* info, unsigned int* widt
 }
 
 int ZoGLDrawSurface::ZoDrawText(unsigned int handle, const tagZoTextInfo* info,
-                                const tagZoRectInfo* rect) noexcept {
+                                const tagZoRectInfo* rect) {
     if (info == nullptr || rect == nullptr || IsTextMissing(*info)) {
         return RefuseNull();
     }

@@ -11,10 +11,10 @@ PASS_ON(void, glBlendFunc, (GLenum source, GLenum destination), (source, destina
 PASS_ON(void, glClear, (GLbitfield mask), (mask))
 PASS_ON(void, glClearColor, (GLfloat r, GLfloat g, GLfloat b, GLfloat a), (r, g, b, a))
 PASS_ON(void, glCompileShader, (GLuint shader), (shader))
-PASS_ON(void, glCopyTexImage2D,
-        (GLenum target, GLint level, GLenum format, GLint x, GLint y, GLsizei w, GLsizei h,
-         GLint border),
-        (target, level, format, x, y, w, h, border))
+PASS_ON(void, glCopyTexSubImage2D,
+        (GLenum target, GLint level, GLint toX, GLint toY, GLint x, GLint y, GLsizei width,
+         GLsizei height),
+        (target, level, toX, toY, x, y, width, height))
 PASS_ON(void, glDisable, (GLenum capability), (capability))
 PASS_ON(void, glDisableVertexAttribArray, (GLuint index), (index))
 PASS_ON(void, glDrawArrays, (GLenum mode, GLint first, GLsizei count), (mode, first, count))
