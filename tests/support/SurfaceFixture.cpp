@@ -123,8 +123,9 @@ void SurfaceFixture::ExpectStateAfterDraw(GLenum activeTexture) {
     EXPECT_EQ(Integer(GL_FRAMEBUFFER_BINDING), 0);
     EXPECT_EQ(Integer(GL_ACTIVE_TEXTURE), static_cast<GLint>(activeTexture));
     EXPECT_EQ(Integer(GL_TEXTURE_BINDING_2D), 0);
-    for (const GLenum capability :
-         {GL_BLEND, GL_DEPTH_TEST, GL_STENCIL_TEST, GL_SCISSOR_TEST, GL_CULL_FACE}) {
+    constexpr GLenum capabilities[] = {GL_BLEND, GL_DEPTH_TEST, GL_STENCIL_TEST, GL_SCISSOR_TEST,
+                                       GL_CULL_FACE};
+    for (const GLenum capability : capabilities) {
         EXPECT_EQ(glIsEnabled(capability), GL_FALSE) << capability;
     }
     for (GLuint attribute = 0; attribute < 8; ++attribute) {
