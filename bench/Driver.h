@@ -1,0 +1,20 @@
+/// @file
+/// What differs between the programs: the window, and whether there is a driver behind GL.
+#ifndef ZOGLES_BENCH_DRIVER_H
+#define ZOGLES_BENCH_DRIVER_H
+
+#include "zogles/ZoGLDrawSurface.h"
+
+constexpr int windowWidth = 1280;
+constexpr int windowHeight = 720;
+
+/// Whether GL draws. Without a driver, several surfaces can be bound at once.
+extern const bool hasDriver;
+
+/// The program's one window, of the size above.
+ANativeWindow* OpenWindow();
+
+/// Makes FreeType enumerate only the first characters of each font; 0 means all.
+void LimitFont(unsigned int characters);
+
+#endif
