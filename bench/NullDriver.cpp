@@ -93,10 +93,10 @@ NOTHING(glBufferData, (GLenum target, GLsizeiptr size, const void* data, GLenum 
         size, Upload(data, size), usage)
 NOTHING(glClear, (GLbitfield buffers), buffers)
 NOTHING(glClearColor, (GLfloat r, GLfloat g, GLfloat b, GLfloat a), r, g, b, a)
-NOTHING(glCopyTexSubImage2D,
-        (GLenum target, GLint level, GLint toX, GLint toY, GLint x, GLint y, GLsizei width,
-         GLsizei height),
-        target, level, toX, toY, x, y, width, height)
+NOTHING(glCopyTexImage2D,
+        (GLenum target, GLint level, GLenum format, GLint x, GLint y, GLsizei width, GLsizei height,
+         GLint border),
+        target, level, format, x, y, width, height, border)
 NOTHING(glDeleteTextures, (GLsizei count, const GLuint* names), count, Object(*names))
 NOTHING(glDisable, (GLenum what), what)
 NOTHING(glDisableVertexAttribArray, (GLuint index), index)

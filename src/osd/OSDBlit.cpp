@@ -28,18 +28,21 @@ int OSDBlit::Init() {
 
 void OSDBlit::Blit(const tagBlitInfo* info) const {
     GLuint texture = info->src.texture;
+    const tagRectInfo* texRect = &info->srcRect;
+    RegionCopy copy;
     const bool isCopied = IsWithinOneBuffer(*info);
     if (isCopied) {
-        texture = CopyRegion(info->src, info->srcRect);
-        if (texture == 0) {
+        if (!CopyRegion(info->src, info->srcRect, &copy)) {
             __android_log_print(LogError, tag, "Create texture fail\n");
             return;
         }
+        texture = copy.texture;
+        texRect = &copy.texRect;
     }
     BindTarget(info->dst.framebuffer, info->dst.width, info->dst.height);
     glUseProgram(program);
     BindSource(texture, texLocation);
-    BlitByDrawing(&info->srcRect, &info->dstRect);
+    BlitByDrawing(texRect, &info->dstRect);
     glBindTexture(GL_TEXTURE_2D, 0);
     UnbindTarget();
     if (isCopied) {

@@ -1,5 +1,6 @@
 #include "osd/RegionCopy.h"
 
+#include "gl/RenderTarget.h"
 #include "gl/Texture.h"
 
 #include <algorithm>
@@ -21,23 +22,36 @@ Span TouchedPixels(double low, double high, int size) {
     return {static_cast<int>(start), static_cast<int>(end - start)};
 }
 
+float Rebase(float position, int size, Span span) {
+    return (position * static_cast<float>(size) - static_cast<float>(span.start)) /
+           static_cast<float>(span.length);
+}
+
+float Rescale(float extent, int size, Span span) {
+    return extent * static_cast<float>(size) / static_cast<float>(span.length);
+}
+
 } // namespace
 
-GLuint CopyRegion(const tagFrameBuffObject& buffer, const tagRectInfo& texRect) {
+bool CopyRegion(const tagFrameBuffObject& buffer, const tagRectInfo& texRect, RegionCopy* copy) {
     const GLuint texture = GenerateTexture(GL_TEXTURE0);
     if (texture == 0) {
-        return 0;
+        return false;
     }
     const Span columns =
         TouchedPixels(texRect.x, texRect.x + texRect.width, std::max(buffer.width, 1));
     const Span rows =
         TouchedPixels(texRect.y - texRect.height, texRect.y, std::max(buffer.height, 1));
+    glBindFramebuffer(GL_FRAMEBUFFER, buffer.framebuffer);
     glBindTexture(GL_TEXTURE_2D, texture);
-    AllocateTexture(GL_RGBA, buffer.width, buffer.height, nullptr);
+    glCopyTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, columns.start, rows.start, columns.length,
+                     rows.length, 0);
     FilterLinear();
     ClampToEdge();
-    glBindFramebuffer(GL_FRAMEBUFFER, buffer.framebuffer);
-    glCopyTexSubImage2D(GL_TEXTURE_2D, 0, columns.start, rows.start, columns.start, rows.start,
-                        columns.length, rows.length);
-    return texture;
+    copy->texture = texture;
+    copy->texRect = {Rebase(texRect.x, buffer.width, columns),
+                     Rebase(texRect.y, buffer.height, rows),
+                     Rescale(texRect.width, buffer.width, columns),
+                     Rescale(texRect.height, buffer.height, rows)};
+    return true;
 }

@@ -34,17 +34,3 @@ TEST_F(OSDRectGLTest, FillsItsPixelsAndNoOthers) {
     }
     EXPECT_EQ(harness::TakeLog(), Log());
 }
-
-TEST_F(OSDRectGLTest, TakesEveryByteAndReplacesAlpha) {
-    Bind();
-    const unsigned int buffer = CreateBuffer(Noise(256, 2));
-    for (unsigned int i = 0; i < 256; ++i) {
-        const auto byte = static_cast<unsigned char>(i);
-        Draw(buffer, {i, 0, 1, 1}, {byte, 0, 1, 255});
-        Draw(buffer, {i, 1, 1, 1}, {1, byte, byte, byte});
-    }
-    EXPECT_TRUE(Matches(Read(buffer), [](int x, int y) {
-        const auto level = static_cast<unsigned char>(x == 1 ? 255 : x);
-        return y == 0 ? Pixel{level, 0, 255, 255} : Pixel{255, level, level, level};
-    }));
-}

@@ -62,7 +62,9 @@ bool CountCall(const char* name) {
 }
 
 void AddLive(const char* kind, size_t object) {
-    Current().live[kind].insert(object);
+    if (object != 0) {
+        Current().live[kind].insert(object);
+    }
 }
 
 void RemoveLive(const char* kind, size_t object) {

@@ -133,6 +133,7 @@ void NoteCall(const char* name, Args... args) {
 /// Counts a call and says whether it is to fail.
 bool CountCall(const char* name);
 
+/// Nothing is noted of object 0, which stands for none.
 void AddLive(const char* kind, size_t object);
 void RemoveLive(const char* kind, size_t object);
 

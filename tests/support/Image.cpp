@@ -29,6 +29,15 @@ std::string Describe(const Pixel& p) {
            ' ' + std::to_string(p[3]) + ')';
 }
 
+void WritePng(const Image& image, const std::string& path) {
+    png_image png = {};
+    png.version = PNG_IMAGE_VERSION;
+    png.width = static_cast<png_uint_32>(image.width);
+    png.height = static_cast<png_uint_32>(image.height);
+    png.format = PNG_FORMAT_RGBA;
+    png_image_write_to_file(&png, path.c_str(), 0, image.pixels.data(), 0, nullptr);
+}
+
 } // namespace
 
 Image ReadPixels(int width, int height) {
@@ -69,13 +78,4 @@ Matches(const Image& image, const std::function<Pixel(int x, int y)>& expected, 
     WritePng(difference, ArtifactPath(".difference.png"));
     return ::testing::AssertionFailure() << first << "; " << wrong << " of " << image.pixels.size()
                                          << " differ; see " << ArtifactPath(".difference.png");
-}
-
-void WritePng(const Image& image, const std::string& path) {
-    png_image png = {};
-    png.version = PNG_IMAGE_VERSION;
-    png.width = static_cast<png_uint_32>(image.width);
-    png.height = static_cast<png_uint_32>(image.height);
-    png.format = PNG_FORMAT_RGBA;
-    png_image_write_to_file(&png, path.c_str(), 0, image.pixels.data(), 0, nullptr);
 }

@@ -32,6 +32,4 @@ Image ReadPixels(int width, int height);
 ::testing::AssertionResult
 Matches(const Image& image, const std::function<Pixel(int x, int y)>& expected, int tolerance = 0);
 
-void WritePng(const Image& image, const std::string& path);
-
 #endif

@@ -41,9 +41,7 @@ extern "C" EGLContext eglCreateContext(EGLDisplay display, EGLConfig config, EGL
     INTERPOSE(eglCreateContext, (display, config, share, attributes));
     NoteAttributes(attributes);
     EGLContext context = isFailing ? EGL_NO_CONTEXT : real(display, config, share, attributes);
-    if (context != EGL_NO_CONTEXT) {
-        harness::AddLive("context", reinterpret_cast<size_t>(context));
-    }
+    harness::AddLive("context", reinterpret_cast<size_t>(context));
     return context;
 }
 
@@ -57,9 +55,7 @@ extern "C" EGLSurface eglCreateWindowSurface(EGLDisplay display, EGLConfig confi
                                              EGLNativeWindowType window, const EGLint* attributes) {
     INTERPOSE(eglCreateWindowSurface, (display, config, window, attributes));
     EGLSurface surface = isFailing ? EGL_NO_SURFACE : real(display, config, window, attributes);
-    if (surface != EGL_NO_SURFACE) {
-        harness::AddLive("window surface", reinterpret_cast<size_t>(surface));
-    }
+    harness::AddLive("window surface", reinterpret_cast<size_t>(surface));
     return surface;
 }
 

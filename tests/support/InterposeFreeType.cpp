@@ -1,28 +1,15 @@
 #include "support/Interpose.h"
 
-#include FT_BITMAP_H
-#include FT_OUTLINE_H
-
 namespace {
 
 constexpr FT_Error injectedError = FT_Err_Out_Of_Memory;
 
 } // namespace
 
-#define PASS_ON_FT(name, parameters, arguments)                                                    \
-    extern "C" FT_Error name parameters {                                                          \
-        INTERPOSE(name, arguments);                                                                \
-        return isFailing ? injectedError : real arguments;                                         \
-    }
-PASS_ON_FT(FT_Set_Pixel_Sizes, (FT_Face face, FT_UInt width, FT_UInt height), (face, width, height))
-PASS_ON_FT(FT_Render_Glyph, (FT_GlyphSlot slot, FT_Render_Mode mode), (slot, mode))
-PASS_ON_FT(FT_Outline_Embolden, (FT_Outline * outline, FT_Pos strength), (outline, strength))
-PASS_ON_FT(FT_Bitmap_Convert,
-           (FT_Library library, const FT_Bitmap* source, FT_Bitmap* target, FT_Int alignment),
-           (library, source, target, alignment))
-PASS_ON_FT(FT_Bitmap_Embolden, (FT_Library library, FT_Bitmap* bitmap, FT_Pos x, FT_Pos y),
-           (library, bitmap, x, y))
-PASS_ON_FT(FT_GlyphSlot_Own_Bitmap, (FT_GlyphSlot slot), (slot))
+extern "C" FT_Error FT_Set_Pixel_Sizes(FT_Face face, FT_UInt width, FT_UInt height) {
+    INTERPOSE(FT_Set_Pixel_Sizes, (face, width, height));
+    return isFailing ? injectedError : real(face, width, height);
+}
 PASS_ON(void, FT_Set_Transform, (FT_Face face, FT_Matrix* matrix, FT_Vector* delta),
         (face, matrix, delta))
 

@@ -11,10 +11,10 @@ PASS_ON(void, glBlendFunc, (GLenum source, GLenum destination), (source, destina
 PASS_ON(void, glClear, (GLbitfield mask), (mask))
 PASS_ON(void, glClearColor, (GLfloat r, GLfloat g, GLfloat b, GLfloat a), (r, g, b, a))
 PASS_ON(void, glCompileShader, (GLuint shader), (shader))
-PASS_ON(void, glCopyTexSubImage2D,
-        (GLenum target, GLint level, GLint toX, GLint toY, GLint x, GLint y, GLsizei width,
-         GLsizei height),
-        (target, level, toX, toY, x, y, width, height))
+PASS_ON(void, glCopyTexImage2D,
+        (GLenum target, GLint level, GLenum format, GLint x, GLint y, GLsizei width, GLsizei height,
+         GLint border),
+        (target, level, format, x, y, width, height, border))
 PASS_ON(void, glDisable, (GLenum capability), (capability))
 PASS_ON(void, glDisableVertexAttribArray, (GLuint index), (index))
 PASS_ON(void, glDrawArrays, (GLenum mode, GLint first, GLsizei count), (mode, first, count))
@@ -115,13 +115,8 @@ extern "C" void glGetIntegerv(GLenum name, GLint* value) {
 QUERY(glGetShaderiv)
 QUERY(glGetProgramiv)
 
-#define LOCATION(name)                                                                             \
-    extern "C" GLint name(GLuint program, const GLchar* variable) {                                \
-        INTERPOSE(name, (program, variable));                                                      \
-        return isFailing ? -1 : real(program, variable);                                           \
-    }
-LOCATION(glGetAttribLocation)
-LOCATION(glGetUniformLocation)
+PASS_ON(GLint, glGetAttribLocation, (GLuint program, const GLchar* variable), (program, variable))
+PASS_ON(GLint, glGetUniformLocation, (GLuint program, const GLchar* variable), (program, variable))
 
 // The library makes and deletes one object at a time; a driver that has none left yields 0.
 #define GENERATE(name, kind)                                                                       \
@@ -132,9 +127,7 @@ LOCATION(glGetUniformLocation)
             return;                                                                                \
         }                                                                                          \
         real(count, objects);                                                                      \
-        if (*objects != 0) {                                                                       \
-            harness::AddLive(kind, *objects);                                                      \
-        }                                                                                          \
+        harness::AddLive(kind, *objects);                                                          \
     }
 #define DELETE_GENERATED(name, kind)                                                               \
     extern "C" void name(GLsizei count, const GLuint* objects) {                                   \
@@ -149,32 +142,20 @@ DELETE_GENERATED(glDeleteTextures, "texture")
 DELETE_GENERATED(glDeleteBuffers, "buffer")
 DELETE_GENERATED(glDeleteFramebuffers, "framebuffer")
 
-extern "C" GLuint glCreateShader(GLenum type) {
-    INTERPOSE(glCreateShader, (type));
-    const GLuint shader = isFailing ? 0 : real(type);
-    if (shader != 0) {
-        harness::AddLive("shader", shader);
+#define CREATE(name, parameters, arguments, kind)                                                  \
+    extern "C" GLuint name parameters {                                                            \
+        INTERPOSE(name, arguments);                                                                \
+        const GLuint object = isFailing ? 0 : real arguments;                                      \
+        harness::AddLive(kind, object);                                                            \
+        return object;                                                                             \
     }
-    return shader;
-}
-
-extern "C" void glDeleteShader(GLuint shader) {
-    INTERPOSE(glDeleteShader, (shader));
-    harness::RemoveLive("shader", shader);
-    real(shader);
-}
-
-extern "C" GLuint glCreateProgram() {
-    INTERPOSE(glCreateProgram, ());
-    const GLuint program = isFailing ? 0 : real();
-    if (program != 0) {
-        harness::AddLive("program", program);
+#define DELETE_CREATED(name, kind)                                                                 \
+    extern "C" void name(GLuint object) {                                                          \
+        INTERPOSE(name, (object));                                                                 \
+        harness::RemoveLive(kind, object);                                                         \
+        real(object);                                                                              \
     }
-    return program;
-}
-
-extern "C" void glDeleteProgram(GLuint program) {
-    INTERPOSE(glDeleteProgram, (program));
-    harness::RemoveLive("program", program);
-    real(program);
-}
+CREATE(glCreateShader, (GLenum type), (type), "shader")
+CREATE(glCreateProgram, (), (), "program")
+DELETE_CREATED(glDeleteShader, "shader")
+DELETE_CREATED(glDeleteProgram, "program")

@@ -57,18 +57,3 @@ TEST(OSDTextTest, MeasuresByTheStandardAtlasAlone) {
     EXPECT_TRUE(osdText.FindCharFromMap(u'A'));
     EXPECT_EQ(glyphs.size(), 8u) << "measuring inserts nothing";
 }
-
-TEST(OSDTextTest, SendsOnlySize40InThePlainStyleToTheStandardAtlas) {
-    const OSDText osdText(std::make_shared<FontAtlas>(), std::make_shared<FontStyleAtlas>());
-    const auto isStandard = [&](unsigned int size, unsigned char bold, unsigned char italic) {
-        tagTextInfo info = {};
-        info.fontSize = size;
-        info.bold = bold;
-        info.italic = italic;
-        info.reservedStyle = info.reservedByte = 1;
-        return osdText.IsDrawStandardFont(&info);
-    };
-    EXPECT_TRUE(isStandard(40, 0, 0));
-    EXPECT_FALSE(isStandard(0, 0, 0) || isStandard(41, 0, 0) || isStandard(0x10028, 0, 0));
-    EXPECT_FALSE(isStandard(40, 2, 0) || isStandard(40, 0, 2));
-}

@@ -46,16 +46,7 @@ bool ReferenceFont::Load(char16_t unit, const Style& style) {
         FT_Outline_Embolden(&face->glyph->outline, 64);
     }
     FT_Render_Glyph(face->glyph, FT_RENDER_MODE_NORMAL);
-    return Maps(unit) && Width() != 0 && face->glyph->bitmap.rows != 0;
-}
-
-unsigned int ReferenceFont::Measure(std::u16string_view text, unsigned int size) {
-    constexpr int absent = 30;
-    int width = 0;
-    for (const char16_t unit : text) {
-        width += !Load(unit, {size}) ? absent : IsOverhanging() ? Width() : Advance();
-    }
-    return static_cast<unsigned int>(width);
+    return FT_Get_Char_Index(face, unit) != 0 && Width() != 0 && face->glyph->bitmap.rows != 0;
 }
 
 void ReferenceFont::Blend(Image& image, std::u16string_view text, const Style& style, int x,

@@ -23,12 +23,8 @@ public:
     ReferenceFont(const ReferenceFont&) = delete;
     ReferenceFont& operator=(const ReferenceFont&) = delete;
 
-    unsigned int Measure(std::u16string_view text, unsigned int size);
-
     /// Blends a text over an image, glyph by glyph, with the pen starting at (x, y).
     void Blend(Image& image, std::u16string_view text, const Style& style, int x, int y);
-
-    bool Maps(unsigned long code) const { return FT_Get_Char_Index(face, code) != 0; }
 
 private:
     /// Renders a glyph, or says that there is none or that it leaves no mark.

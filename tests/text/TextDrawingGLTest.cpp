@@ -201,13 +201,6 @@ TEST_F(TextDrawingGLTest, SkipsWhatTheFontCannotShow) {
     Drawn(u"ab", {41});
     EXPECT_TRUE(Shows(u"b", {41}));
     EXPECT_EQ(harness::TakeLog(), Log());
-
-    // Of equal units each has a cell; the last one's is recorded.
-    Drawn(u"aaa", {41});
-    const tagGlyphInfo& glyph = surface->fontStyleAtlas->GetGlyphs().at(u'a');
-    EXPECT_EQ(static_cast<float>(surface->fontStyleAtlas->GetFontTextureWidth()),
-              3 * (glyph.bitmapWidth + 1));
-    EXPECT_FLOAT_EQ(glyph.texX, 2.0f / 3);
 }
 
 TEST_F(TextDrawingGLTest, NeverReadsPastTheLength) {
@@ -224,6 +217,7 @@ TEST_F(TextDrawingGLTest, NeverReadsPastTheLength) {
         const tagZoTextInfo info = Request(text, style);
         unsigned int size[] = {0, 0};
         EXPECT_EQ(surface->ZoGetTextSize(&info, &size[0], &size[1]), ZO_SUCCESS);
+        EXPECT_TRUE(size[0] > 50 && size[1] == 50) << size[0] << ' ' << size[1];
     }
     munmap(pages, 2 * page);
 

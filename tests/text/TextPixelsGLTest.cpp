@@ -73,25 +73,3 @@ TEST_F(TextPixelsGLTest, BoldIsHeavierAtEverySizeAndCutsNothing) {
         }
     }
 }
-
-TEST_F(TextPixelsGLTest, AWholeFontIsThereAndMeasuredByItsOwnMetrics) {
-    Load(sansPath, 25);
-    ReferenceFont font(sansPath);
-    std::u16string everything;
-    for (unsigned long code = 1; code < 0x20000; ++code) {
-        ASSERT_EQ(surface->fontAtlas->GetGlyphs().count(code) != 0, font.Maps(code)) << code;
-        if (code <= 0xFFFF && (font.Maps(code) || code % 64 == 0)) {
-            everything += static_cast<char16_t>(code);
-        }
-    }
-    for (const Style& style : {Style{40}, Style{96, true, true}}) {
-        for (size_t i = 0; i < everything.size(); i += 100) {
-            const std::u16string text = everything.substr(i, 100);
-            const tagZoTextInfo info = Request(text, style);
-            unsigned int size[] = {0, 0};
-            ASSERT_EQ(surface->ZoGetTextSize(&info, &size[0], &size[1]), ZO_SUCCESS);
-            EXPECT_EQ(size[0], font.Measure(text, 25)) << i;
-            EXPECT_EQ(size[1], 50u);
-        }
-    }
-}
