@@ -255,6 +255,13 @@ TEST_F(TextDrawingGLTest, TakesMemoryForLongTextsOnlyAndStandsItsRefusal) {
     EXPECT_TRUE(Shows(u"", {}));
     EXPECT_EQ(Draw(tooLong), ZO_SUCCESS);
     EXPECT_TRUE(Shows(tooLong, {}));
+    for (const size_t units : {size_t{1000}, size_t{100000}}) {
+        // Far more than the target is wide: the pen passes its right edge.
+        const std::u16string text(units, u'i');
+        Drawn(text);
+        EXPECT_EQ(Vertices().size(), units * 6);
+        EXPECT_TRUE(Shows(text, {}));
+    }
     harness::FailCall("glGenTextures");
     EXPECT_EQ(Draw(u"i", {20}), ZO_FAILURE);
     EXPECT_EQ(harness::TakeLog(), Errors({{"FontStyleAtlas", "Create texture fail\n"},
