@@ -14,6 +14,9 @@
 
 namespace {
 
+// The rows of an atlas are up to 1,023 pixels wide; most have no more of them than that.
+constexpr unsigned int ordinarySide = 1024;
+
 void Upload(unsigned int x, unsigned int y, const FT_Bitmap& bitmap, const void* coverage) {
     glTexSubImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(x), static_cast<GLint>(y),
                     static_cast<GLsizei>(bitmap.width), static_cast<GLsizei>(bitmap.rows), GL_ALPHA,
@@ -91,7 +94,7 @@ bool TextureLimit::Fits(unsigned int width, unsigned int height) {
 
 bool TextureLimit::IsReached(unsigned int width, unsigned int height) {
     const unsigned int side = std::max(width, height);
-    return side > trusted && side >= Largest();
+    return side > ordinarySide && side >= Largest();
 }
 
 void TextureLimit::Cut(unsigned int& width, unsigned int& height) {

@@ -33,7 +33,8 @@ public:
 
     bool Fits(unsigned int width, unsigned int height);
 
-    /// Whether a texture is as large as the driver can make it.
+    /// Whether a texture goes beyond the rows of an ordinary atlas and is as large as the driver can
+    /// make it.
     bool IsReached(unsigned int width, unsigned int height);
 
     /// Cuts a texture size down to what the driver can make.
@@ -105,12 +106,13 @@ template <typename Walk, typename Store>
 void FillAtlas(const AtlasKind& kind, Walk walk, unsigned int width, unsigned int height,
                Store store) {
     GlyphPacker packer;
-    TextureLimit limit(kind);
     unsigned int leftOut = 0;
     walk([&](FT_GlyphSlot glyph, FT_ULong code) {
         const unsigned int w = glyph->bitmap.width;
         const unsigned int h = glyph->bitmap.rows;
-        if (!limit.Fits(w, h)) {
+        // The texture is as large as the driver can make it, or as all that fits it: what is larger
+        // was passed over in sizing.
+        if (w > width || h > height) {
             ++leftOut;
             return;
         }
