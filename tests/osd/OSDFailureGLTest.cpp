@@ -56,13 +56,12 @@ Log InitFailure(const Operation& operation, int code, Log before) {
 
 const struct {
     const char* call;
-    int nth;
     const char* line;
 } programFaults[] = {
-    {"glCreateShader", 1, "Create shader fail\n"},
-    {"glCompileShader", 1, "Could not compile shader #:\n\n"},
-    {"glCreateProgram", 1, "create program fail\n"},
-    {"glLinkProgram", 1, "Could not link program:\n\n"},
+    {"glCreateShader", "Create shader fail\n"},
+    {"glCompileShader", "Could not compile shader #:\n\n"},
+    {"glCreateProgram", "create program fail\n"},
+    {"glLinkProgram", "Could not link program:\n\n"},
 };
 
 class OSDFailureGLTest : public SurfaceFixture {
@@ -114,9 +113,9 @@ TEST_F(OSDFailureGLTest, DrawsNothingAndLeavesTheSurfaceUsable) {
                 hasRenderer == 'y');
         }
         for (const auto& fault : programFaults) {
-            SCOPED_TRACE(fault.call + std::to_string(fault.nth));
+            SCOPED_TRACE(fault.call);
             ExpectFailure(
-                operation, [&] { harness::FailCall(fault.call, fault.nth); }, ZO_PROGRAM_FAILED,
+                operation, [&] { harness::FailCall(fault.call); }, ZO_PROGRAM_FAILED,
                 InitFailure(operation, ZO_PROGRAM_FAILED, {{6, "ShaderProgram", fault.line}}));
         }
         ExpectFailure(

@@ -26,4 +26,12 @@
         return isFailing ? Result() : real arguments;                                              \
     }
 
+/// A whole function that ends the life of an object of that kind.
+#define END_LIFE(Return, name, kind, object, parameters, arguments)                                \
+    extern "C" Return name parameters {                                                            \
+        INTERPOSE(name, arguments);                                                                \
+        harness::RemoveLive(kind, reinterpret_cast<size_t>(object));                               \
+        return real arguments;                                                                     \
+    }
+
 #endif

@@ -45,11 +45,8 @@ extern "C" EGLContext eglCreateContext(EGLDisplay display, EGLConfig config, EGL
     return context;
 }
 
-extern "C" EGLBoolean eglDestroyContext(EGLDisplay display, EGLContext context) {
-    INTERPOSE(eglDestroyContext, (display, context));
-    harness::RemoveLive("context", reinterpret_cast<size_t>(context));
-    return real(display, context);
-}
+END_LIFE(EGLBoolean, eglDestroyContext, "context", context,
+         (EGLDisplay display, EGLContext context), (display, context))
 
 extern "C" EGLSurface eglCreateWindowSurface(EGLDisplay display, EGLConfig config,
                                              EGLNativeWindowType window, const EGLint* attributes) {
@@ -59,8 +56,5 @@ extern "C" EGLSurface eglCreateWindowSurface(EGLDisplay display, EGLConfig confi
     return surface;
 }
 
-extern "C" EGLBoolean eglDestroySurface(EGLDisplay display, EGLSurface surface) {
-    INTERPOSE(eglDestroySurface, (display, surface));
-    harness::RemoveLive("window surface", reinterpret_cast<size_t>(surface));
-    return real(display, surface);
-}
+END_LIFE(EGLBoolean, eglDestroySurface, "window surface", surface,
+         (EGLDisplay display, EGLSurface surface), (display, surface))

@@ -43,11 +43,7 @@ extern "C" FT_Error FT_Init_FreeType(FT_Library* library) {
     return error;
 }
 
-extern "C" FT_Error FT_Done_FreeType(FT_Library library) {
-    INTERPOSE(FT_Done_FreeType, (library));
-    harness::RemoveLive("FreeType library", reinterpret_cast<size_t>(library));
-    return real(library);
-}
+END_LIFE(FT_Error, FT_Done_FreeType, "FreeType library", library, (FT_Library library), (library))
 
 extern "C" FT_Error FT_New_Face(FT_Library library, const char* path, FT_Long index,
                                 FT_Face* face) {
@@ -61,8 +57,4 @@ extern "C" FT_Error FT_New_Face(FT_Library library, const char* path, FT_Long in
     return error;
 }
 
-extern "C" FT_Error FT_Done_Face(FT_Face face) {
-    INTERPOSE(FT_Done_Face, (face));
-    harness::RemoveLive("FreeType face", reinterpret_cast<size_t>(face));
-    return real(face);
-}
+END_LIFE(FT_Error, FT_Done_Face, "FreeType face", face, (FT_Face face), (face))
