@@ -16,9 +16,13 @@ struct Vertex {
 };
 static_assert(sizeof(Vertex) == 4 * sizeof(float));
 
-/// Feeds the attribute at `location` from `buffer`.
+/// Feeds the attribute at `location` from `buffer`. Where the driver had no name left for a buffer,
+/// which is 0 then, GL would read vertices at address 0: the attribute stays off, so that all
+/// vertices fall on one point and nothing is drawn.
 inline void BindVertices(GLint location, GLuint buffer) {
-    glEnableVertexAttribArray(static_cast<GLuint>(location));
+    if (buffer != 0) {
+        glEnableVertexAttribArray(static_cast<GLuint>(location));
+    }
     glBindBuffer(GL_ARRAY_BUFFER, buffer);
     glVertexAttribPointer(static_cast<GLuint>(location), 4, GL_FLOAT, GL_FALSE, 0, nullptr);
 }

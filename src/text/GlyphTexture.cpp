@@ -180,7 +180,7 @@ tagGlyphInfo DescribeGlyph(FT_GlyphSlot glyph, int x, int y, unsigned int width,
 
 void ReportLeftOut(const AtlasKind& kind, unsigned int count) {
     if (count != 0) {
-        __android_log_print(LogError, kind.tag, "%u characters do not fit the largest texture\n",
+        __android_log_print(LogError, kind.tag, "%u characters are left out of the texture\n",
                             count);
     }
 }

@@ -26,12 +26,14 @@
         return isFailing ? Result() : real arguments;                                              \
     }
 
-/// A whole function that ends the life of an object of that kind.
-#define END_LIFE(Return, name, kind, object, parameters, arguments)                                \
+/// A whole function that ends the life of an object of that kind. Where a fault is set it does so
+/// too, and reports the failure that is given: nobody can ask a second time.
+#define END_LIFE(Return, name, kind, object, failure, parameters, arguments)                       \
     extern "C" Return name parameters {                                                            \
         INTERPOSE(name, arguments);                                                                \
         harness::RemoveLive(kind, reinterpret_cast<size_t>(object));                               \
-        return real arguments;                                                                     \
+        const Return result = real arguments;                                                      \
+        return isFailing ? Return(failure) : result;                                               \
     }
 
 #endif

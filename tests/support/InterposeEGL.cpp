@@ -45,7 +45,7 @@ extern "C" EGLContext eglCreateContext(EGLDisplay display, EGLConfig config, EGL
     return context;
 }
 
-END_LIFE(EGLBoolean, eglDestroyContext, "context", context,
+END_LIFE(EGLBoolean, eglDestroyContext, "context", context, EGL_FALSE,
          (EGLDisplay display, EGLContext context), (display, context))
 
 extern "C" EGLSurface eglCreateWindowSurface(EGLDisplay display, EGLConfig config,
@@ -56,5 +56,5 @@ extern "C" EGLSurface eglCreateWindowSurface(EGLDisplay display, EGLConfig confi
     return surface;
 }
 
-END_LIFE(EGLBoolean, eglDestroySurface, "window surface", surface,
+END_LIFE(EGLBoolean, eglDestroySurface, "window surface", surface, EGL_FALSE,
          (EGLDisplay display, EGLSurface surface), (display, surface))

@@ -115,8 +115,13 @@ extern "C" void glGetIntegerv(GLenum name, GLint* value) {
 QUERY(glGetShaderiv)
 QUERY(glGetProgramiv)
 
-PASS_ON(GLint, glGetAttribLocation, (GLuint program, const GLchar* variable), (program, variable))
-PASS_ON(GLint, glGetUniformLocation, (GLuint program, const GLchar* variable), (program, variable))
+#define FIND(name)                                                                                 \
+    extern "C" GLint name(GLuint program, const GLchar* variable) {                                \
+        INTERPOSE(name, (program, variable));                                                      \
+        return isFailing ? -1 : real(program, variable);                                           \
+    }
+FIND(glGetAttribLocation)
+FIND(glGetUniformLocation)
 
 // The library makes and deletes one object at a time; a driver that has none left yields 0.
 #define GENERATE(name, kind)                                                                       \

@@ -40,8 +40,8 @@ TEST_F(GlyphAtlasGLTest, PlacesAndRecordsWhatFits) {
     const std::vector<FakeGlyph> tall = {{65, 1000, 600}, {66, 1000, 600}, {67, 1000, 600}};
     const std::vector<FakeGlyph> huge = {{65, 1, 1500}, {66, 1501, 2}, {67, 2, 1501}, {68, 3, 3}};
     const std::string failed = "Loading character 66 failed!\n";
-    const std::string oneOut = "1 characters do not fit the largest texture\n";
-    const std::string twoOut = "2 characters do not fit the largest texture\n";
+    const std::string oneOut = "1 characters are left out of the texture\n";
+    const std::string twoOut = "2 characters are left out of the texture\n";
     const struct {
         std::vector<FakeGlyph> glyphs;
         std::optional<int> limit; ///< largest texture side
