@@ -140,7 +140,11 @@ GLuint CreateGlyphTexture(const AtlasKind& kind, unsigned int width, unsigned in
 
 bool UploadGlyph(FT_GlyphSlot glyph, unsigned int x, unsigned int y) {
     const FT_Bitmap& bitmap = glyph->bitmap;
-    if (bitmap.width == 0 || bitmap.rows == 0 || IsTightCoverage(bitmap)) {
+    const bool isEmpty = bitmap.width == 0 || bitmap.rows == 0;
+    if (!isEmpty && bitmap.buffer == nullptr) { // a bitmap font can state a size and no pixels
+        return false;
+    }
+    if (isEmpty || IsTightCoverage(bitmap)) {
         Upload(x, y, bitmap, bitmap.buffer);
         return true;
     }

@@ -54,7 +54,7 @@ GLuint CreateGlyphTexture(const AtlasKind& kind, unsigned int width, unsigned in
 
 /// Writes the slot's bitmap into the bound texture, as 8-bit coverage in rows without padding
 /// whatever FreeType delivered.
-/// @return false when the bitmap could not be converted; nothing is written then
+/// @return false when there are no pixels or they could not be converted; nothing is written then
 bool UploadGlyph(FT_GlyphSlot glyph, unsigned int x, unsigned int y);
 
 /// Drops texture and records, if there is a texture, and makes the size 0.

@@ -125,7 +125,8 @@ TEST_F(GlyphAtlasGLTest, RepacksRowsWhateverTheirPitch) {
     }
 }
 
-// Fonts of 1, 2, 4 and 8 bits a pixel, which FreeType delivers as stored.
+// Fonts of 1, 2, 4 and 8 bits a pixel, which FreeType delivers as stored. Their B has a size, but no
+// pixels.
 TEST_F(GlyphAtlasGLTest, StretchesStrikesToFullCoverage) {
     const struct {
         int depth;
@@ -145,10 +146,12 @@ TEST_F(GlyphAtlasGLTest, StretchesStrikesToFullCoverage) {
                             << "SIZE 8 75 75 " << c.depth << "\nFONTBOUNDINGBOX 8 8 0 0\n"
                             << "STARTPROPERTIES 5\nPIXEL_SIZE 8\nFONT_ASCENT 8\nFONT_DESCENT 0\n"
                             << "CHARSET_REGISTRY \"ISO10646\"\nCHARSET_ENCODING \"1\"\n"
-                            << "ENDPROPERTIES\nCHARS 1\nSTARTCHAR A\nENCODING 65\nSWIDTH 1000 0\n"
+                            << "ENDPROPERTIES\nCHARS 2\nSTARTCHAR A\nENCODING 65\nSWIDTH 1000 0\n"
                             << "DWIDTH 8 0\nBBX 8 2 0 0\nBITMAP\n"
-                            << c.rows << "\nENDCHAR\nENDFONT\n";
+                            << c.rows << "\nENDCHAR\nSTARTCHAR B\nENCODING 66\n"
+                            << "SWIDTH 1000 0\nDWIDTH 8 0\nBBX 8 2 0 0\nENDCHAR\nENDFONT\n";
         Load(path.c_str(), 8);
+        EXPECT_EQ(surface->fontAtlas->GetGlyphs().size(), 1u);
         const Bytes plain = Uploaded({}, 8, 2);
         ExpectNear(plain, c.coverage);
         // Strokes that are a pixel heavier keep every mark where it is and add to it.
