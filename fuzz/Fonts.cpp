@@ -1,0 +1,73 @@
+// A font file of any bytes, loaded, measured and drawn. What is done with it is taken from the
+// file's end, where hardly a format looks, so that every font file is an input as it is.
+
+#include "Support.h"
+
+#include "support/Harness.h"
+
+#include <fuzzer/FuzzedDataProvider.h>
+#include <string>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr unsigned int largestSize = 128;
+
+// A new file for each input: a face that is open maps the old one.
+class MemoryFile {
+public:
+    explicit MemoryFile(const std::string& content) : file(memfd_create("font", MFD_CLOEXEC)) {
+        const ssize_t written = write(file, content.data(), content.size());
+        fuzz::Require(written == static_cast<ssize_t>(content.size()), "memfd", written);
+    }
+    ~MemoryFile() { close(file); }
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+
+    std::string Path() const { return "/proc/self/fd/" + std::to_string(file); }
+
+private:
+    int file;
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    FuzzedDataProvider input(data, size);
+    const unsigned int loadedSize = input.ConsumeIntegralInRange(0U, largestSize);
+    const unsigned int drawnSize = input.ConsumeIntegralInRange(0U, largestSize);
+    const bool isItalic = input.ConsumeBool();
+    std::u16string units = u"Ag&1 \u00C9A";
+    for (int i = 0; i < 4; ++i) {
+        units += input.ConsumeIntegral<char16_t>();
+    }
+    const MemoryFile file(input.ConsumeRemainingBytesAsString());
+
+    harness::Reset();
+    fuzz::LimitFreeType();
+    auto surface = std::make_unique<ZoGLDrawSurface>();
+    fuzz::RequireCode("bind", surface->ZoCreateGLWindowSurface(fuzz::WindowOf(0)), {ZO_SUCCESS});
+    const int loaded = surface->ZoLoadFont(file.Path().c_str(), loadedSize);
+    fuzz::RequireCode("load", loaded, {ZO_SUCCESS, ZO_FONT_FACE_FAILED, ZO_FONT_ATLAS_EMPTY});
+
+    // Without a font, text asks for the default one, which is missing here.
+    const int expected = loaded == ZO_SUCCESS ? ZO_SUCCESS : ZO_FONT_FACE_FAILED;
+    const int mayBeEmpty = loaded == ZO_SUCCESS ? ZO_FONT_ATLAS_EMPTY : expected;
+    const unsigned int length = static_cast<unsigned int>(units.size());
+    const tagZoColorRGBA white = {255, 255, 255, 255};
+    const tagZoRectInfo pen = {2, 40, 0, 0};
+    for (const bool isBold : {false, true}) {
+        for (const unsigned int drawn : {40U, drawnSize}) {
+            const tagZoTextInfo text = {units.data(), length, white, {},      0,
+                                        drawn,        isBold, 0,     isItalic};
+            const int code = surface->ZoDrawText(ZO_WINDOW_HANDLE, &text, &pen);
+            fuzz::RequireCode("draw", code, {expected, mayBeEmpty});
+            unsigned int measured[] = {0, 0};
+            fuzz::RequireCode("measure", surface->ZoGetTextSize(&text, &measured[0], &measured[1]),
+                              {expected});
+        }
+    }
+    fuzz::RequireNothingLeft(std::move(surface));
+    return 0;
+}

@@ -1,0 +1,124 @@
+#include "Support.h"
+
+#include "support/Harness.h"
+
+#include <X11/Xlib.h>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <unistd.h>
+
+#include FT_OUTLINE_H
+
+namespace {
+
+constexpr unsigned int windowWidth = 160;
+constexpr unsigned int windowHeight = 120;
+constexpr int charactersOfFont = 300;
+constexpr FT_Pos largestGlyph = 2048; // pixels a side
+
+int messages = STDERR_FILENO;
+
+struct Screen {
+    Screen() : display(XOpenDisplay(nullptr)), windows() {
+        fuzz::Require(display != nullptr, "the fuzz targets need an X server", 0);
+        for (Window& window : windows) {
+            window = XCreateSimpleWindow(display, XDefaultRootWindow(display), 0, 0, windowWidth,
+                                         windowHeight, 0, 0, 0);
+            XMapWindow(display, window);
+        }
+        XSync(display, False);
+    }
+
+    Display* display;
+    Window windows[fuzz::windowCount];
+};
+
+Screen& TheScreen() {
+    static Screen screen;
+    return screen;
+}
+
+bool IsHuge(FT_GlyphSlot glyph) {
+    if (glyph->format != FT_GLYPH_FORMAT_OUTLINE) {
+        return false;
+    }
+    FT_BBox box;
+    FT_Outline_Get_CBox(&glyph->outline, &box);
+    return (box.xMax - box.xMin) >> 6 > largestGlyph || (box.yMax - box.yMin) >> 6 > largestGlyph;
+}
+
+// A broken font can ask for a gigabyte a glyph, and FreeType would fill it.
+FT_Error LoadUnlessHuge(FT_Face face, FT_ULong code, FT_Int32 flags) {
+    FT_Error error = FT_Load_Char(face, code, flags & ~FT_LOAD_RENDER);
+    if (error == 0 && IsHuge(face->glyph)) {
+        error = FT_Err_Raster_Overflow;
+    }
+    const bool isRendered = error == 0 && (flags & FT_LOAD_RENDER) != 0;
+    return isRendered ? FT_Render_Glyph(face->glyph, FT_RENDER_MODE_NORMAL) : error;
+}
+
+} // namespace
+
+namespace fuzz {
+
+ANativeWindow* WindowOf(unsigned int number) {
+    return reinterpret_cast<ANativeWindow*>(
+        static_cast<uintptr_t>(TheScreen().windows[number % windowCount]));
+}
+
+void ResizeWindow(unsigned int number, unsigned int width, unsigned int height) {
+    XResizeWindow(TheScreen().display, TheScreen().windows[number % windowCount], width, height);
+    XSync(TheScreen().display, False);
+}
+
+void Require(bool isTrue, const char* what, long long value) {
+    if (!isTrue) {
+        dprintf(messages, "FAILED: %s: %lld\n", what, value);
+        abort();
+    }
+}
+
+void RequireCode(const char* operation, int code, std::initializer_list<int> documented) {
+    for (const int known : documented) {
+        if (code == known) {
+            return;
+        }
+    }
+    Require(false, operation, code);
+}
+
+void RequireNothingLeft(std::unique_ptr<ZoGLDrawSurface> surface) {
+    surface.reset();
+    const std::string live = harness::DescribeLive();
+    Require(live.empty(), live.c_str(), 0);
+}
+
+void LimitFreeType() {
+    static int left;
+    harness::Current().firstChar = [](FT_Face face, FT_UInt* index) {
+        left = charactersOfFont;
+        return FT_Get_First_Char(face, index);
+    };
+    harness::Current().nextChar = [](FT_Face face, FT_ULong code, FT_UInt* index) -> FT_ULong {
+        if (--left <= 0) {
+            *index = 0;
+            return 0;
+        }
+        return FT_Get_Next_Char(face, code, index);
+    };
+    harness::Current().loadChar = LoadUnlessHuge;
+}
+
+} // namespace fuzz
+
+// The fuzzer closes the log's stream, not the checks'.
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    messages = dup(STDERR_FILENO);
+    return 0;
+}
+
+// Drivers stay loaded, so that the leak checker knows a leak of theirs by the driver's name.
+extern "C" int dlclose(void*) {
+    return 0;
+}
