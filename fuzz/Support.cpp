@@ -1,6 +1,7 @@
 #include "Support.h"
 
 #include "support/Harness.h"
+#include "text/FakeFont.h"
 
 #include <X11/Xlib.h>
 #include <cstdint>
@@ -95,18 +96,7 @@ void RequireNothingLeft(std::unique_ptr<ZoGLDrawSurface> surface) {
 }
 
 void LimitFreeType() {
-    static int left;
-    harness::Current().firstChar = [](FT_Face face, FT_UInt* index) {
-        left = charactersOfFont;
-        return FT_Get_First_Char(face, index);
-    };
-    harness::Current().nextChar = [](FT_Face face, FT_ULong code, FT_UInt* index) -> FT_ULong {
-        if (--left <= 0) {
-            *index = 0;
-            return 0;
-        }
-        return FT_Get_Next_Char(face, code, index);
-    };
+    UseFirst(charactersOfFont);
     harness::Current().loadChar = LoadUnlessHuge;
 }
 
