@@ -37,6 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     FuzzedDataProvider input(data, size);
     const unsigned int loadedSize = input.ConsumeIntegralInRange(0U, largestSize);
     const unsigned int drawnSize = input.ConsumeIntegralInRange(0U, largestSize);
+    const int largestTexture = input.ConsumeIntegralInRange(64, 4096);
     const bool isItalic = input.ConsumeBool();
     std::u16string units = u"Ag&1 \u00C9A";
     for (int i = 0; i < 4; ++i) {
@@ -46,6 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
     harness::Reset();
     fuzz::LimitFreeType();
+    harness::Current().maxTextureSize = largestTexture;
     auto surface = std::make_unique<ZoGLDrawSurface>();
     fuzz::RequireCode("bind", surface->ZoCreateGLWindowSurface(fuzz::WindowOf(0)), {ZO_SUCCESS});
     const int loaded = surface->ZoLoadFont(file.Path().c_str(), loadedSize);

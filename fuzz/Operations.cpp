@@ -6,6 +6,7 @@
 #include "platform/LogFilter.h"
 #include "support/Harness.h"
 
+#include <GLES2/gl2.h>
 #include <algorithm>
 #include <fuzzer/FuzzedDataProvider.h>
 #include <set>
@@ -61,6 +62,9 @@ public:
             fuzz::LimitFreeType();
             hasNull = false;
             (this->*input.PickValueInArray(steps))();
+            const unsigned int side =
+                std::min(surface->ZoGetWindowWidth(), surface->ZoGetWindowHeight());
+            fuzz::Require(side > 0 || !isCertain, "window size", side);
         }
         harness::Reset();
         fuzz::RequireNothingLeft(std::move(surface));
@@ -129,7 +133,11 @@ private:
         }
         isCertain = false;
         const int nth = input.ConsumeIntegralInRange(1, 12);
-        if (input.ConsumeBool()) {
+        const int kind = input.ConsumeIntegralInRange(0, 4);
+        if (kind == 0) { // a small driver, short of memory
+            harness::Current().maxTextureSize = 100 * nth;
+            harness::Current().glError = GL_OUT_OF_MEMORY;
+        } else if (kind <= 2) {
             harness::RefuseAllocation(nth);
         } else {
             harness::FailCall(input.PickValueInArray(refusable), nth);
