@@ -116,25 +116,6 @@ TEST_F(FBOManagerGLTest, DestroysWhatABufferOwns) {
     ExpectGlError(GL_INVALID_FRAMEBUFFER_OPERATION); // without a texture, nothing to clear
 }
 
-TEST_F(FBOManagerGLTest, LogsTheDriversVerdictAndKeepsTheBuffer) {
-    const struct {
-        int status;
-        const char* text;
-    } cases[] = {
-        {0x8CD5, "Framebuffer complete.\n"},
-        {0x8CD6, "Unable to set up render Target: RFRAMEBUFFER_INCOMPLETE_ATTACHMENT\n"},
-        {0x8CD7, "Unable to set up render Target: GL_FRAMEBUFFER_INCOMPLETE_MISSING_ATTACHMENT\n"},
-        {0x8CD9, "Unable to set up render Target: GL_FRAMEBUFFER_INCOMPLETE_DIMENSIONS\n"},
-        {0x8CDD, "Unable to set up render Target: GL_FRAMEBUFFER_UNSUPPORTED\n"},
-        {0x8D56, "Framebuffer incomplete: Unknown error.\n"},
-    };
-    for (const auto& c : cases) {
-        harness::Current().framebufferStatus = c.status;
-        Get(Create(4, 4));
-        EXPECT_EQ(harness::TakeLog(), (Log{{6, "FBOManager", c.text}}));
-    }
-}
-
 TEST_F(FBOManagerGLTest, KeepsBuffersOfSizesThatCannotBe) {
     const char* incomplete = "Unable to set up render Target: RFRAMEBUFFER_INCOMPLETE_ATTACHMENT\n";
     const struct {

@@ -74,18 +74,6 @@ TEST_F(OSDDisplayGLTest, ShowsTheLastPresentationOnTheScreen) {
     EXPECT_TRUE(Matches(screen, expected, 1)); // as drivers round what they blend
 }
 
-TEST_F(OSDDisplayGLTest, TakesBitmapsOfAnyFormatAsRgbaAndNeedsNoPool) {
-    Bind();
-    surface->fboManager.reset();
-    for (const int format : {8, 10, 0, -1}) {
-        Display(opaque, {1, 2, 31, 17}, format);
-        const std::string line = "Color format is invalid " + std::to_string(format) + "\n";
-        EXPECT_EQ(harness::TakeLog(), (Log{{6, "ZoGLDrawSurface", line}}));
-        EXPECT_TRUE(Matches(ReadWindow(), Drawn(opaque, WholeOf(opaque), {1, 2, 31, 17})));
-    }
-    EXPECT_EQ(surface->fboManager, nullptr);
-}
-
 // The window holds no image to sample, which GL reads as opaque black.
 TEST_F(OSDDisplayGLTest, FindsNoImageInTheWindow) {
     Bind();

@@ -75,6 +75,7 @@ struct State {
     std::optional<int> maxTextureSize;    ///< for glGetIntegerv
     std::optional<int> infoLogLength;     ///< for glGetShaderiv and glGetProgramiv
     std::optional<int> glError;           ///< for glGetError
+    std::optional<int> location;          ///< for glGetAttribLocation and glGetUniformLocation
     std::string fontFile;                 ///< for FT_New_Face, unless empty
 
     std::function<FT_Error(FT_Face, FT_ULong, FT_Int32)> loadChar;

@@ -115,13 +115,13 @@ extern "C" void glGetIntegerv(GLenum name, GLint* value) {
 QUERY(glGetShaderiv)
 QUERY(glGetProgramiv)
 
-#define FIND(name)                                                                                 \
+#define LOCATE(name)                                                                               \
     extern "C" GLint name(GLuint program, const GLchar* variable) {                                \
         INTERPOSE(name, (program, variable));                                                      \
-        return isFailing ? -1 : real(program, variable);                                           \
+        return isFailing ? -1 : harness::Current().location.value_or(real(program, variable));      \
     }
-FIND(glGetAttribLocation)
-FIND(glGetUniformLocation)
+LOCATE(glGetAttribLocation)
+LOCATE(glGetUniformLocation)
 
 // The library makes and deletes one object at a time; a driver that has none left yields 0.
 #define GENERATE(name, kind)                                                                       \

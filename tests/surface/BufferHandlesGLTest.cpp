@@ -32,67 +32,7 @@ protected:
     }
 };
 
-constexpr unsigned int untouched = 0x12345678;
-const harness::LogLine complete = {6, "FBOManager", "Framebuffer complete.\n"};
-const harness::LogLine poolFull = {6, "FBOManager", "num of the FBO more than max num 16 \n"};
-
 } // namespace
-
-TEST_F(BufferHandlesGLTest, RefusesWhatCannotBeCreated) {
-    unsigned int handle = untouched;
-    const auto expectRefused = [&](int code, const Log& log) {
-        const std::string table = Table();
-        EXPECT_EQ(
-            harness::Record([&] { EXPECT_EQ(surface->ZoCreateGLFBO(&handle, 4, 4, 9), code); }),
-            Calls());
-        EXPECT_EQ(harness::TakeLog(), log);
-        EXPECT_EQ(handle, untouched);
-        EXPECT_EQ(Table(), table);
-    };
-    const Log unbound = {SurfaceLine("no window is bound, FBO is not created\n")};
-    expectRefused(ZO_FAILURE, unbound);
-    EXPECT_EQ(surface->ZoCreateGLFBO(nullptr, 4, 4, 8), ZO_INVALID_PARAM);
-    EXPECT_EQ(surface->ZoDestoryGLFBO(0x10001), ZO_NO_FBO_MANAGER);
-    EXPECT_EQ(surface->ResetFboSource(), ZO_FAILURE);
-    EXPECT_EQ(harness::TakeLog(),
-              (Log{SurfaceLine("param is invalid\n"), SurfaceLine("FBO manager is nullptr\n"),
-                   SurfaceLine("no window is bound, FBOs are not restored\n")}));
-    EXPECT_EQ(Components(), "");
-    Bind();
-    for (unsigned int i = 1; i <= 15; ++i) {
-        EXPECT_EQ(CreateBuffer(4, 4), 0x10000 + i);
-    }
-    expectRefused(ZO_NO_FREE_FBO, {poolFull, SurfaceLine("Create FBO fail 15\n")});
-    surface->ZoDestoryGLWindowSurface();
-    harness::TakeLog();
-    expectRefused(ZO_FAILURE, unbound);
-}
-
-TEST_F(BufferHandlesGLTest, TakesEveryFormat) {
-    Bind();
-    surface->fboManager.reset();
-    EXPECT_EQ(surface->ZoCreateGLFBO(nullptr, 4, 4, 8), ZO_INVALID_PARAM);
-    EXPECT_EQ(Components(), "");
-    harness::TakeLog();
-    unsigned int handle = untouched;
-    EXPECT_EQ(surface->ZoCreateGLFBO(&handle, 4, 3, 8), ZO_SUCCESS);
-    EXPECT_EQ(harness::TakeLog(), (Log{SurfaceLine("Color format is invalid 8\n"), complete}));
-    Fill(handle);
-    EXPECT_TRUE(Matches(Read(handle), Filled));
-    EXPECT_EQ(Table(), "10001:4x3");
-}
-
-TEST_F(BufferHandlesGLTest, LogsUnknownHandlesTwiceAndChangesNothing) {
-    Bind();
-    CreateBuffer(4, 3);
-    for (const unsigned int unknown : {0U, 0x10000U, 0x10002U, 0xFFFFFFFFU}) {
-        const std::string text =
-            "FBO is not exist fboHandleIndex " + std::to_string(unknown) + "\n";
-        EXPECT_EQ(surface->ZoDestoryGLFBO(unknown), ZO_SUCCESS);
-        EXPECT_EQ(harness::TakeLog(), (Log{{6, "FBOManager", text}, SurfaceLine(text)}));
-    }
-    EXPECT_EQ(Table(), "10001:4x3");
-}
 
 TEST_F(BufferHandlesGLTest, RestoresRecordedBuffersClearedUnderTheirHandles) {
     Bind();
@@ -128,28 +68,6 @@ TEST_F(BufferHandlesGLTest, RestoresRecordedBuffersClearedUnderTheirHandles) {
     Rebind();
     EXPECT_TRUE(std::all_of(handles.begin(), handles.end(),
                             [&](unsigned int handle) { return IsThere(handle); }));
-}
-
-TEST_F(BufferHandlesGLTest, RestoresUpToTheFirstFailure) {
-    Bind();
-    for (unsigned int i = 1; i <= 16; ++i) {
-        surface->SaveFboInfo(0x20000 + i, 4, 3, GL_RGBA);
-    }
-    EXPECT_EQ(harness::TakeLog(), Log());
-    const std::string table = Table();
-    surface->SaveFboInfo(0x30000, 4, 3, GL_RGBA);
-    EXPECT_EQ(harness::TakeLog(), Log{SurfaceLine(poolFull.text)});
-    Log log(15, complete);
-    log.push_back(poolFull);
-    log.push_back(SurfaceLine("Reset FBO source fail 15, fbo 131088\n"));
-    EXPECT_EQ(surface->ResetFboSource(), ZO_NO_FREE_FBO);
-    EXPECT_EQ(harness::TakeLog(), log);
-    EXPECT_TRUE(IsThere(0x2000F));
-    EXPECT_EQ(Table(), table);
-    surface->RemoveFBO(0x20001);
-    EXPECT_EQ(surface->ResetFboSource(), ZO_SUCCESS);
-    EXPECT_TRUE(IsThere(0x20010));
-    EXPECT_EQ(harness::Current().live["framebuffer"].size(), 15U); // the old pool's are gone
 }
 
 TEST_F(BufferHandlesGLTest, NamesNoBufferTwiceAfterDrawingWithoutAWindow) {

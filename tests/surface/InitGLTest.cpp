@@ -35,27 +35,6 @@ TEST_F(InitGLTest, CreatesWhatTheFlagsName) {
     EXPECT_EQ(Target(0x10000).width, windowWidth);
 }
 
-TEST_F(InitGLTest, StopsAtTheFirstFailureAndResumesThere) {
-    int nth = 0;
-    for (const char* before :
-         {"", "text ", "text blit ", "text blit bitmap ", "text blit bitmap frame "}) {
-        SCOPED_TRACE(before);
-        Restart();
-        harness::FailCall("glCreateProgram", ++nth);
-        EXPECT_EQ(surface->Init(allComponents), ZO_PROGRAM_FAILED);
-        EXPECT_EQ(Components(), before);
-        const int count = harness::CountOf("glCreateProgram");
-        EXPECT_EQ(surface->Init(allComponents), ZO_SUCCESS);
-        EXPECT_EQ(harness::CountOf("glCreateProgram") - count, 6 - nth);
-        EXPECT_EQ(Components(), everything);
-    }
-    Restart();
-    harness::FailCall("FT_New_Face");
-    EXPECT_EQ(surface->Init(allComponents), ZO_FONT_FACE_FAILED);
-    EXPECT_EQ(Components(), "");
-    EXPECT_EQ(harness::TakeLog().back(), SurfaceLine("Load font fail 31\n"));
-}
-
 TEST_F(InitGLTest, SurvivesEveryRefusedAllocation) {
     const tagZoTextInfo text = {u"A", 1, {255, 255, 255, 255}, {}, 0, 20, 1, 0, 1};
     const tagZoRectInfo rect = {0, 0, 4, 4};

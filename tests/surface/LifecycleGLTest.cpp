@@ -15,11 +15,6 @@ protected:
 constexpr char data[] = "data";
 const harness::LogLine creating = SurfaceLine("Create GL window\n", 5);
 const harness::LogLine recreating = SurfaceLine("ReCreate GL window\n", 5);
-const harness::LogLine makeFails = SurfaceLine("Make current EGL context fail 100\n");
-
-harness::LogLine EglLine(const std::string& text) {
-    return {6, "EGLManager", text};
-}
 
 } // namespace
 
@@ -72,86 +67,6 @@ TEST_F(LifecycleGLTest, MovesToAnotherWindowAndKeepsTheRest) {
     ExpectUnbound();
     ExpectWindowSize(200, 100);
     EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_NO_EGL_MANAGER);
-}
-
-TEST_F(LifecycleGLTest, ReturnsToUnboundWhenTheSurfaceCannotBeMade) {
-    const struct {
-        const char* call;
-        bool isBound;
-        int code;
-        const char* verdict;
-    } cases[] = {{"eglGetDisplay", false, 1, " failed: 0x3000"},
-                 {"eglInitialize", false, 2, " failed: 0x3000"},
-                 {"eglChooseConfig", false, 3, " error: 0x3000"},
-                 {"eglCreateContext", false, 4, " error: 0x3000"},
-                 {"eglCreateWindowSurface", false, 5, " error: 0x3000"},
-                 {"eglCreateWindowSurface", true, 5, " error: 0x3000"}};
-    Bind();
-    const unsigned int kept = CreateBuffer(6, 5);
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.call) + (c.isBound ? ", bound" : ""));
-        surface->ZoDestoryGLWindowSurface();
-        if (c.isBound) {
-            Bind();
-            ASSERT_EQ(surface->Init(allComponents), ZO_SUCCESS);
-        }
-        harness::TakeLog();
-        harness::FailCall(c.call);
-        EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), c.code);
-        const Log log = TakeLogAboveVerbose();
-        EXPECT_EQ(log[0], c.isBound ? recreating : creating);
-        EXPECT_EQ(log[1], EglLine(std::string(c.call) + c.verdict));
-        EXPECT_EQ(log[2], SurfaceLine("Create openGLES window surface fail " +
-                                      std::to_string(c.code) + "\n"));
-        ExpectUnbound();
-        ExpectWindowSize(windowWidth, windowHeight);
-        ExpectUsable();
-        EXPECT_EQ(Target(kept).height, 5);
-    }
-}
-
-TEST_F(LifecycleGLTest, IsHalfBoundWhenTheContextCannotBeMadeCurrent) {
-    harness::FailCall("eglMakeCurrent");
-    EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_FAILURE);
-    EXPECT_EQ(TakeLogAboveVerbose(),
-              (Log{creating, EglLine("egl make current failed: 0x3000"), makeFails}));
-    EXPECT_NE(surface->eglManager->surface, nullptr);
-    EXPECT_FALSE(surface->surfaceCreated);
-    EXPECT_EQ(Components(), "");
-    ExpectWindowSize(1920, 1080);
-    // The next attempt finds the surface there and clears up, the one after that succeeds.
-    EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_FAILURE);
-    EXPECT_EQ(TakeLogAboveVerbose(),
-              (Log{creating, EglLine("surface already created"),
-                   SurfaceLine("Create openGLES window surface fail 100\n")}));
-    ExpectUnbound();
-    ExpectUsable();
-}
-
-TEST_F(LifecycleGLTest, StaysBoundWhenTheContextCannotBeMadeCurrentAgain) {
-    Bind();
-    ASSERT_EQ(surface->Init(allComponents), ZO_SUCCESS);
-    harness::TakeLog();
-    for (const int code : {ZO_FAILURE, ZO_SUCCESS}) {
-        harness::FailCall("eglMakeCurrent", code == ZO_FAILURE ? 1 : 0);
-        EXPECT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), code);
-        const Log log = TakeLogAboveVerbose();
-        EXPECT_EQ(log[0], recreating);
-        EXPECT_EQ(log[2] == makeFails, code == ZO_FAILURE);
-        EXPECT_TRUE(surface->surfaceCreated);
-        EXPECT_EQ(Components(), "text blit bitmap frame rect pool ");
-    }
-    ExpectUsable();
-}
-
-TEST_F(LifecycleGLTest, IgnoresTheResultOfTheSwap) {
-    Bind();
-    for (const int nth : {0, 1}) {
-        harness::FailCall("eglSwapBuffers", nth);
-        EXPECT_EQ(harness::Record([&] { EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_SUCCESS); }),
-                  Calls{Call("eglSwapBuffers", data, data)});
-    }
-    EXPECT_EQ(harness::TakeLog(), Log());
 }
 
 TEST_F(LifecycleGLTest, DropsItsPartsInOrder) {

@@ -88,26 +88,6 @@ TEST_F(GlyphAtlasGLTest, PlacesAndRecordsWhatFits) {
     }
 }
 
-TEST_F(GlyphAtlasGLTest, WithoutAMarkOrWithoutMemoryThereIsNoTexture) {
-    const size_t textures = harness::Current().live["texture"].size();
-    UseFakeFont({{32, 0, 0, 0, 0, 12}, {33, 5, 0}});
-    EXPECT_EQ(surface->ZoLoadFont(sansPath, 40), ZO_FONT_ATLAS_EMPTY);
-    EXPECT_EQ(harness::TakeLog(),
-              Errors({{"FontAtlas", "Calculate texture width 7d, height 0d\n"},
-                      {"ZoGLDrawSurface", "Load standard font lib fail 32\n"}}));
-    // A driver may have no memory for the largest texture that it knows.
-    UseFakeFont({{65, 1000, 1200}, {66, 1000, 1200}});
-    harness::Current().maxTextureSize = 2048;
-    harness::Current().glError = GL_OUT_OF_MEMORY;
-    EXPECT_EQ(surface->ZoLoadFont(sansPath, 40), ZO_FAILURE);
-    harness::Current().glError.reset();
-    EXPECT_EQ(harness::TakeLog(),
-              Errors({{"FontAtlas", "Create texture fail\n"},
-                      {"ZoGLDrawSurface", "Load standard font lib fail 100\n"}}));
-    EXPECT_EQ(harness::Current().live["texture"].size(), textures);
-    EXPECT_TRUE(surface->fontAtlas->GetGlyphs().empty());
-}
-
 TEST_F(GlyphAtlasGLTest, RepacksRowsWhateverTheirPitch) {
     const Bytes expected = {10, 20, 30, 40, 50, 60, 70, 80, 90};
     const FakeGlyph cases[] = {

@@ -1,0 +1,162 @@
+// Walks the table: under each condition the operation fails as the row says, and without it works.
+
+#include "FailureRows.h"
+
+#include <iterator>
+#include <regex>
+
+namespace {
+
+constexpr tagZoRectInfo area = {0, 0, 8, 8};
+constexpr tagZoColorRGBA white = {1, 1, 1, 1};
+constexpr unsigned char pixel[4] = {255, 255, 255, 255};
+
+std::string Change(const std::set<std::string>& before, const std::set<std::string>& after) {
+    std::string change;
+    for (const std::string& word : after) {
+        change += before.count(word) == 0 ? '+' + word + ' ' : "";
+    }
+    for (const std::string& word : before) {
+        change += after.count(word) == 0 ? '-' + word + ' ' : "";
+    }
+    return change;
+}
+
+Log TakeLog() {
+    const std::regex chosen("(compile shader |EGL v|GL Version = |GL Vendor = |GL Renderer = )"
+                            "[^\n:]+");
+    Log log = harness::TakeLog();
+    for (harness::LogLine& line : log) {
+        line.text = std::regex_replace(line.text, chosen, "$1#");
+    }
+    return log;
+}
+
+// A new buffer is cleared, which is no drawing.
+int CountDraws() {
+    return harness::CountOf("glDrawArrays") + harness::CountOf("glDrawElements") +
+           harness::CountOf("glClear") - harness::CountOf("glGenFramebuffers");
+}
+
+bool IsComplaint(const harness::LogLine& line) {
+    return line.priority == 6 && line.text.rfind("GL ", 0) != 0 &&
+           line.text != "Framebuffer complete.\n";
+}
+
+} // namespace
+
+void PrintTo(const Row& row, std::ostream* out) {
+    *out << row.name;
+}
+
+void ConditionGLTest::SetUp() {
+    LifecycleFixture::SetUp();
+    Restore();
+}
+
+void ConditionGLTest::Restore() {
+    native = window.Native();
+    size[0] = size[1] = untouched;
+    made = width = &size[0];
+    height = &size[1];
+    format = ZO_FORMAT_RGBA8888;
+    buffer = 0x10001;
+    handle = ZO_WINDOW_HANDLE;
+    source = rect = &area;
+    color = &white;
+    hasInfo = true;
+    blit = {ZO_WINDOW_HANDLE, ZO_WINDOW_HANDLE, area, area};
+    bitmap = {pixel, ZO_FORMAT_RGBA8888, 0, 0, 1, 1, area};
+    path = ZOGLES_TEST_FONT;
+    text = {u"AB", 2, white, {}, 0, 40, 0, 0, 0};
+    harness::Reset();
+    harness::Current().infoLogLength = 0; // the driver's own words are not at issue
+    harness::Current().fontFile = ZOGLES_TEST_FONT;
+    UseFakeFont({{65, 4, 3, 0, 3, 4}, {66, 4, 3, 0, 3, 4}});
+}
+
+std::set<std::string> ConditionGLTest::State() const {
+    const ZoGLDrawSurface& s = *surface;
+    std::istringstream parts(Components() + (s.surfaceCreated ? "bound " : "") +
+                             (s.eglManager && !s.surfaceCreated ? "half " : "") +
+                             (s.fontLoaded ? "font " : "") +
+                             (s.fontStyleAtlas && s.fontStyleAtlas->face ? "face " : "") +
+                             std::to_string(s.windowWidth) + 'x' + std::to_string(s.windowHeight));
+    std::set<std::string> words(std::istream_iterator<std::string>(parts), {});
+    const auto addAtlas = [&](const char* name, const auto& atlas) {
+        if (atlas) {
+            const bool isEmpty = atlas->texture == 0 && atlas->GetGlyphs().empty();
+            words.insert(name + (isEmpty ? "empty" : std::to_string(atlas->GetGlyphs().size())));
+        }
+    };
+    addAtlas("standard:", s.fontAtlas);
+    addAtlas("styled:", s.fontStyleAtlas);
+    const auto addBuffer = [&](const char* kind, const auto& entry) {
+        std::ostringstream word;
+        word << kind << std::hex << entry.handle << std::dec;
+        word << ':' << entry.width << 'x' << entry.height;
+        entry.handle == ZO_NO_HANDLE ? false : words.insert(word.str()).second;
+    };
+    for (const TagFboInfo& record : s.fboInfo) {
+        addBuffer("record", record);
+    }
+    for (int i = 1; s.fboManager && i < FBOManager::slotCount; ++i) {
+        addBuffer("buffer", s.fboManager->slots[i]);
+    }
+    return words;
+}
+
+void ConditionGLTest::WithFont() {
+    Bind();
+    ASSERT_EQ(LoadFont(), ZO_SUCCESS);
+}
+
+void ConditionGLTest::WithAll() {
+    Bind();
+    ASSERT_EQ(InitAll(), ZO_SUCCESS);
+    SurfaceFixture::CreateBuffer(8, 6);
+}
+
+void ConditionGLTest::WindowLost() {
+    WithAll();
+    surface->ZoDestoryGLWindowSurface();
+}
+
+TEST_P(ConditionGLTest, Holds) {
+    const Row& row = GetParam();
+    const auto take = [this](const Step& step) { step ? step(*this) : void(); };
+    take(row.prepare);
+    harness::TakeLog();
+    const std::set<std::string> before = State();
+    const std::string live = harness::DescribeLive();
+    const int draws = CountDraws();
+    drawnTexture = surface->osdText ? surface->osdText->fontTexture : 0;
+    int code = -1;
+    calls = harness::Record([&] {
+        take(row.fault);
+        code = row.run(*this);
+    });
+    harness::RefuseAllocation(0);
+    EXPECT_EQ(code, row.code);
+    EXPECT_EQ(TakeLog(), row.log);
+    EXPECT_EQ(Change(before, State()), row.change);
+    EXPECT_TRUE(harness::DescribeLive() == live || !row.change.empty()) << harness::DescribeLive();
+    EXPECT_TRUE(CountDraws() == draws || row.code == ZO_SUCCESS);
+    for (const std::string& call : calls) {
+        EXPECT_TRUE(call.find("memset_s") == 0 || row.code != ZO_INVALID_PARAM) << call;
+    }
+    take(row.check);
+
+    Restore();
+    take(row.mend);
+    harness::TakeLog();
+    EXPECT_EQ(row.run(*this), row.again);
+    const Log log = harness::TakeLog();
+    EXPECT_TRUE(row.again != ZO_SUCCESS || std::none_of(log.begin(), log.end(), IsComplaint));
+    harness::TakeLog();
+    ExpectUsable();
+}
+
+INSTANTIATE_TEST_SUITE_P(FailureRows, ConditionGLTest,
+                         ::testing::ValuesIn(SurfaceRows() + DrawingRows() + TextRows()),
+                         [](const auto& row) { return row.param.name; });

@@ -1,0 +1,221 @@
+// Fonts, their atlases, and text that cannot be shown.
+
+#include "FailureRows.h"
+
+#include <algorithm>
+#include <fstream>
+
+namespace {
+
+constexpr char noLibrary[] = "Failed to initialize freetype library";
+constexpr char noFace[] = "Error loading font face";
+constexpr char noTexture[] = "Create texture fail\n";
+constexpr char emptyAtlas[] = "Calculate texture width 0d, height 0d\n";
+const harness::LogLine generated =
+    Line("FontAtlas", "Generated a 10 x 3 (0 kb) texture atlas\n", 5);
+const harness::LogLine generatedOne =
+    Line("FontAtlas", "Generated a 5 x 3 (0 kb) texture atlas\n", 5);
+
+harness::LogLine Standard(const char* text) {
+    return Line("FontAtlas", text);
+}
+
+harness::LogLine Styled(const char* text) {
+    return Line("FontStyleAtlas", text);
+}
+
+std::string EmptyFile() {
+    const std::string path = ::testing::TempDir() + "zogles_empty_font";
+    std::ofstream(path).flush();
+    return path;
+}
+
+Step Open(const std::string& path) {
+    return [=](C&) { harness::Current().fontFile = path; };
+}
+
+Step Show(const std::vector<FakeGlyph>& glyphs) {
+    return [=](C&) { UseFakeFont(glyphs); };
+}
+
+Step And(const Step& first, const Step& second) {
+    return [=](C& c) {
+        first(c);
+        second(c);
+    };
+}
+
+// A driver may have no memory for the largest texture that it knows.
+void RefuseLargestTexture(C&) {
+    UseFakeFont({{65, 1000, 1200}, {66, 1000, 1200}});
+    harness::Current().maxTextureSize = 2048;
+    harness::Current().glError = GL_OUT_OF_MEMORY;
+}
+
+// Why the standard atlas cannot be made of a font.
+const struct {
+    std::string condition;
+    Step fault;
+    int code;
+    const char* line;
+} atlasFaults[] = {
+    {"no_library", Fail("FT_Init_FreeType"), ZO_FREETYPE_FAILED, noLibrary},
+    {"face_refused", Fail("FT_New_Face"), ZO_FONT_FACE_FAILED, noFace},
+    {"file_missing", Open("/nonexistent/font.ttf"), ZO_FONT_FACE_FAILED, noFace},
+    {"file_is_a_folder", Open(::testing::TempDir()), ZO_FONT_FACE_FAILED, noFace},
+    {"file_empty", Open(EmptyFile()), ZO_FONT_FACE_FAILED, noFace},
+    {"no_rows", Show({{32, 0, 0, 0, 0, 12}, {33, 5, 0}}), ZO_FONT_ATLAS_EMPTY,
+     "Calculate texture width 7d, height 0d\n"},
+    {"no_character", Show({}), ZO_FONT_ATLAS_EMPTY, emptyAtlas},
+    {"no_texture", Fail("glGenTextures"), ZO_FAILURE, noTexture},
+    {"no_texture_memory", RefuseLargestTexture, ZO_FAILURE, noTexture},
+};
+
+// Drawing goes on with what there is, and never hands FreeType a null face.
+Step ExpectDraws(int styledCode) {
+    return [=](C& c) {
+        c.Restore();
+        EXPECT_EQ(c.DrawText(), ZO_SUCCESS);
+        c.text.fontSize = 41;
+        EXPECT_EQ(c.DrawText(), styledCode);
+    };
+}
+
+Rows LoadingRows() {
+    const Operation load = &C::LoadFont;
+    const Step showOne = Show({{65, 4, 3}, {66, 4, 3, 0, 0, 0, 0, {}, true}});
+    const harness::LogLine failed = Standard("Loading character 66 failed!\n");
+    const char* withoutFace = "+standard:1 -face -standard:2 ";
+    Rows rows = {
+        Row("load_null_path", &C::Bound, Set<const char*>(&C::path, nullptr), load,
+            ZO_INVALID_PARAM, {SurfaceLine("font lib path is nullptr\n")}),
+        Row("load_size_not_set", &C::WithFont, Fail("FT_Set_Pixel_Sizes"), load, ZO_SUCCESS,
+            {Standard("set pixel size fail"), generated}),
+        Row("load_character_fails", &C::WithFont, showOne, load, ZO_SUCCESS,
+            {failed, failed, generatedOne}, "+standard:1 -standard:2 "),
+        // The standard atlas holds the new font then, and the styled one none.
+        Row("load_no_styled_library", &C::WithFont,
+            And(Show({{65, 4, 3}}), Fail("FT_Init_FreeType", 2)), load, ZO_FREETYPE_FAILED,
+            {generatedOne, Styled(noLibrary), SurfaceLine("Load dynamic font lib fail 30\n")},
+            withoutFace, ExpectDraws(ZO_FONT_ATLAS_EMPTY)),
+        Row("load_styled_face_refused", &C::WithFont,
+            And(Show({{65, 4, 3}}), Fail("FT_New_Face", 2)), load, ZO_FONT_FACE_FAILED,
+            {generatedOne, Styled(noFace), SurfaceLine("Load dynamic font lib fail 31\n")},
+            withoutFace, ExpectDraws(ZO_FONT_ATLAS_EMPTY)),
+    };
+    for (const auto& [condition, fault, code, line] : atlasFaults) {
+        const std::string own = "Load standard font lib fail " + std::to_string(code) + "\n";
+        rows.emplace_back("load_" + condition, &C::WithFont, fault, load, code,
+                          Log{Standard(line), SurfaceLine(own)}, "+standard:empty -standard:2 ",
+                          ExpectDraws(ZO_SUCCESS));
+    }
+    return rows;
+}
+
+void ExpectDefaultFont(C& c) {
+    EXPECT_TRUE(c.size[0] == c.untouched && c.size[1] == c.untouched);
+    EXPECT_EQ(std::count_if(c.calls.begin(), c.calls.end(),
+                            [](const std::string& call) {
+                                return call.find("FT_New_Face") == 0 &&
+                                       call.find("/system/fonts/CC3.ttf") != std::string::npos;
+                            }),
+              harness::CountOf("FT_New_Face"));
+}
+
+// The first use of text, when the client has loaded no font.
+Rows FirstUseRows() {
+    const std::pair<std::string, Operation> entries[] = {
+        {"init", &C::InitAll}, {"measure", &C::Measure}, {"text", &C::DrawText}};
+    Rows rows;
+    for (const auto& [name, run] : entries) {
+        for (const auto& [condition, fault, code, line] : atlasFaults) {
+            const std::string number = std::to_string(code) + "\n";
+            rows.emplace_back(name + "_default_font_" + condition, &C::Bound, fault, run, code,
+                              Log{Standard(line),
+                                  SurfaceLine("Load standard font lib fail " + number),
+                                  SurfaceLine("Load font fail " + number)},
+                              "+standard:empty +styled:empty ", ExpectDefaultFont);
+        }
+        rows.emplace_back(name + "_default_font_styled_face_refused", &C::Bound,
+                          Fail("FT_New_Face", 2), run, ZO_FONT_FACE_FAILED,
+                          Log{generated, Styled(noFace),
+                              SurfaceLine("Load dynamic font lib fail 31\n"),
+                              SurfaceLine("Load font fail 31\n")},
+                          "+standard:2 +styled:empty ", ExpectDefaultFont);
+        rows.emplace_back(name + "_default_font_loaded_but_no_program", &C::Bound,
+                          Fail("glCreateProgram"), run, ZO_PROGRAM_FAILED,
+                          Log{generated, Line("ShaderProgram", "create program fail\n"),
+                              Line("OSDText", "create shader program fail"),
+                              SurfaceLine("OSD text init fail 20\n")},
+                          "+face +font +standard:2 +styled:empty ", ExpectDefaultFont);
+    }
+    return rows;
+}
+
+// Both atlases hold the text.
+void DrawBothStyles(C& c) {
+    c.WithFont();
+    EXPECT_EQ(c.DrawText(), ZO_SUCCESS);
+    c.text.fontSize = 41;
+    EXPECT_EQ(c.DrawText(), ZO_SUCCESS);
+    c.text.fontSize = 40;
+}
+
+Step SetText(const char16_t* units, unsigned int length, unsigned int size = 41) {
+    return [=](C& c) {
+        c.text.text = units;
+        c.text.length = length;
+        c.text.fontSize = size;
+    };
+}
+
+Step ExpectVertices(int count) {
+    return [=](C& c) {
+        const std::string draw = harness::Call("glDrawArrays", GL_TRIANGLES, 0, count);
+        EXPECT_EQ(std::count(c.calls.begin(), c.calls.end(), draw), 1);
+    };
+}
+
+Rows RequestRows() {
+    const Operation draw = &C::DrawText;
+    const Step styled = SetText(u"AB", 2);
+    const Log absent = {Line("OSDText", "Char 32 is not exit\n")};
+    Rows rows = {
+        Row("styled_size_not_set", DrawBothStyles, And(styled, Fail("FT_Set_Pixel_Sizes")), draw,
+            ZO_SUCCESS, {Styled("set pixel size fail")}, "", ExpectVertices(12)),
+        // In both passes. Its quad has no area.
+        Row("styled_unit_not_loaded", DrawBothStyles,
+            And(styled, And(Fail("FT_Load_Char", 1), Fail("FT_Load_Char", 3))), draw, ZO_SUCCESS,
+            {}, "+styled:1 -styled:2 ", ExpectVertices(12)),
+        Row("text_unit_absent", DrawBothStyles, SetText(u"A B", 3, 40), draw, ZO_SUCCESS, absent,
+            "", ExpectVertices(12)),
+        Row("measure_unit_absent", DrawBothStyles, SetText(u"A B", 3), &C::Measure, ZO_SUCCESS,
+            absent, "", [](C& c) { EXPECT_TRUE(c.size[0] == 38 && c.size[1] == 50); }),
+    };
+    const std::tuple<const char*, Step, int, const char*> faults[] = {
+        {"styled_no_texture", And(styled, Fail("glGenTextures")), ZO_FAILURE, noTexture},
+        {"styled_no_rows", And(styled, Show({{65, 5, 0}, {66, 5, 0}})), ZO_FONT_ATLAS_EMPTY,
+         "Calculate texture width 12d, height 0d\n"},
+        {"styled_zero_unit_first", SetText(u"\0AB", 3), ZO_FONT_ATLAS_EMPTY, emptyAtlas},
+        {"styled_no_unit", SetText(u"AB", 0), ZO_FONT_ATLAS_EMPTY, emptyAtlas},
+        {"styled_no_unit_and_null", SetText(nullptr, 0), ZO_FONT_ATLAS_EMPTY, emptyAtlas},
+    };
+    const Step expectSameTexture = [](C& c) {
+        EXPECT_EQ(c.surface->osdText->fontTexture, c.drawnTexture);
+    };
+    for (const auto& [name, fault, code, line] : faults) {
+        const std::string number = std::to_string(code);
+        rows.emplace_back(name, DrawBothStyles, fault, draw, code,
+                          Log{Styled(line),
+                              Line("OSDText", "Get font atlas texture fail " + number),
+                              Line("OSDText", "get font alpha texture fail " + number + "\n")},
+                          "+styled:empty -styled:2 ", expectSameTexture);
+    }
+    return rows;
+}
+
+} // namespace
+
+Rows TextRows() {
+    return LoadingRows() + FirstUseRows() + RequestRows();
+}
