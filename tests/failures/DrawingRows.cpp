@@ -3,6 +3,7 @@
 #include "FailureRows.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -12,15 +13,19 @@ const struct Drawing {
     const char* tag;
     const char* initLine;
     const char* renderer; ///< as a change of the state
+    std::string pointers;
     bool needsPool;
     std::string fills; ///< of each whether the renderer exists by then: y or n
 } drawings[] = {
-    {"rect", &C::DrawRect, "OSDRect", "OSD Rect init fail ", "+rect ", true, "nyy"},
-    {"blit", &C::Blit, "OSDBlit", "OSD blit init fail ", "+blit ", true, "nn"},
-    {"present", &C::Present, "OSDFrame", "OSD frame init fail ", "+frame ", true, "nyy"},
-    {"bitmap", &C::DisplayBitmap, "OSDBitmap", "OSD bitmap fail ", "+bitmap ", false, "y"},
-    {"text", &C::DrawText, "OSDText", "OSD text init fail ", "+text ", true, "nyy"},
-    {"measure", &C::Measure, "OSDText", "OSD text init fail ", "+text ", false, "y"},
+    {"rect", &C::DrawRect, "OSDRect", "OSD Rect init fail ", "+rect ", "rect color", true, "nyy"},
+    {"blit", &C::Blit, "OSDBlit", "OSD blit init fail ", "+blit ", "info", true, "nn"},
+    {"present", &C::Present, "OSDFrame", "OSD frame init fail ", "+frame ", "source rect", true,
+     "nyy"},
+    {"bitmap", &C::DisplayBitmap, "OSDBitmap", "OSD bitmap fail ", "+bitmap ", "info", false, "y"},
+    {"text", &C::DrawText, "OSDText", "OSD text init fail ", "+text ", "info rect units", true,
+     "nyy"},
+    {"measure", &C::Measure, "OSDText", "OSD text init fail ", "+text ", "info units width height",
+     false, "y"},
 };
 
 Log InitFails(const Drawing& drawing, int code, Log before) {
@@ -41,29 +46,15 @@ void ExpectSizeUntouched(C& c) {
 }
 
 Rows NullRows() {
-    const Step noRect = Set<const tagZoRectInfo*>(&C::rect, nullptr);
-    const Step noInfo = Set(&C::hasInfo, false);
-    const Step noUnits = [](C& c) { c.text.text = nullptr; };
-    const std::tuple<const char*, Operation, Step> nulls[] = {
-        {"rect_null_rect", &C::DrawRect, noRect},
-        {"rect_null_color", &C::DrawRect, Set<const tagZoColorRGBA*>(&C::color, nullptr)},
-        {"blit_null_info", &C::Blit, noInfo},
-        {"present_null_source", &C::Present, Set<const tagZoRectInfo*>(&C::source, nullptr)},
-        {"present_null_destination", &C::Present, noRect},
-        {"bitmap_null_info", &C::DisplayBitmap, noInfo},
-        {"text_null_info", &C::DrawText, noInfo},
-        {"text_null_rect", &C::DrawText, noRect},
-        {"text_null_units", &C::DrawText, noUnits},
-        {"measure_null_info", &C::Measure, noInfo},
-        {"measure_null_width", &C::Measure, Set<unsigned int*>(&C::width, nullptr)},
-        {"measure_null_height", &C::Measure, Set<unsigned int*>(&C::height, nullptr)},
-        {"measure_null_units", &C::Measure, noUnits},
-    };
     Rows rows;
-    for (const auto& [name, run, fault] : nulls) { // unbound, where nothing may be made either
-        rows.emplace_back(name, Step(), fault, run, ZO_INVALID_PARAM,
-                          Log{SurfaceLine("param is nullptr\n")}, "", ExpectSizeUntouched,
-                          &C::Bound);
+    for (const Drawing& drawing : drawings) {
+        std::istringstream parts(drawing.pointers);
+        for (std::string part; parts >> part;) { // unbound, where nothing may be made either
+            rows.emplace_back(
+                drawing.name + "_null_" + part, Step(), [part](C& c) { c.missing = part; },
+                drawing.run, ZO_INVALID_PARAM, Log{SurfaceLine("param is nullptr\n")}, "",
+                ExpectSizeUntouched, &C::Bound);
+        }
     }
     return rows;
 }
@@ -139,6 +130,22 @@ Rows RefusalRows(const Drawing& drawing) {
     return rows;
 }
 
+// Init stops at the first component that fails, and keeps those before it.
+Rows InitRows() {
+    std::set<std::string> made;
+    Rows rows;
+    for (const size_t i : {4, 1, 3, 2, 0}) {
+        const Log log = InitFails(drawings[i], ZO_PROGRAM_FAILED,
+                                  {Line("ShaderProgram", "create program fail\n")});
+        const int nth = static_cast<int>(made.size()) + 1;
+        rows.emplace_back("init_" + drawings[i].name + "_fails", &C::WithFont,
+                          Fail("glCreateProgram", nth), &C::InitAll, ZO_PROGRAM_FAILED, log,
+                          std::accumulate(made.begin(), made.end(), std::string()));
+        made.insert(drawings[i].renderer);
+    }
+    return rows;
+}
+
 template <unsigned int component>
 int InitOne(C& c) {
     return c.surface->Init(component);
@@ -147,16 +154,18 @@ int InitOne(C& c) {
 Rows ProgramRows() {
     const auto shaderLine = [](const char* text) { return Line("ShaderProgram", text); };
     const Operation loadNothing = [](C&) {
-        return ShaderProgram().LoadShader(GL_VERTEX_SHADER, nullptr) == 0 ? ZO_PROGRAM_FAILED : 0;
+        return ShaderProgram().LoadShader(GL_VERTEX_SHADER, nullptr) == 0 ? ZO_PROGRAM_FAILED
+                                                                          : ZO_SUCCESS;
     };
-    const Step neitherKind = [](C&) {
-        harness::FailCall("glCompileShader");
-        harness::FailCall("glIsShader");
+    const Operation buildNothing = [](C&) {
+        const ShaderProgram programs;
+        return programs.CreateProgram(nullptr, "") + programs.CreateProgram("", nullptr) == 0
+                   ? ZO_PROGRAM_FAILED
+                   : ZO_SUCCESS;
     };
-    const Step noMemoryForLog = [](C&) {
-        harness::FailCall("glCompileShader");
-        harness::RefuseAllocation(3);
-    };
+    const Step expectNoCall = [](C& c) { EXPECT_TRUE(c.calls.empty()); };
+    const Step neitherKind = And(Fail("glCompileShader"), Fail("glIsShader"));
+    const Step noMemoryForLog = And(Fail("glCompileShader"), RefuseAllocation(3));
     const Step noLocation = [](C&) { harness::Current().location = -1; };
     const Step expectNoLocation = [](C& c) {
         const OSDText& text = *c.surface->osdText;
@@ -169,7 +178,9 @@ Rows ProgramRows() {
     const Drawing& rect = drawings[0];
     return {
         Row("shader_null_source", &C::Bound, {}, loadNothing, ZO_PROGRAM_FAILED,
-            {shaderLine("Error source is NULL\n")}, "", {}, {}, ZO_PROGRAM_FAILED),
+            {shaderLine("Error source is NULL\n")}, "", expectNoCall, {}, ZO_PROGRAM_FAILED),
+        Row("program_null_source", &C::Bound, {}, buildNothing, ZO_PROGRAM_FAILED, {}, "",
+            expectNoCall, {}, ZO_PROGRAM_FAILED),
         Row("driver_log_of_no_shader_and_no_program", &C::Bound, neitherKind, rect.run,
             ZO_PROGRAM_FAILED,
             InitFails(rect, ZO_PROGRAM_FAILED, {shaderLine("Not a shader or a program\n")})),
@@ -216,7 +227,7 @@ Rows EmptyTargetRows(const std::string& name) {
 } // namespace
 
 Rows DrawingRows() {
-    Rows rows = NullRows() + HandleRows() + ProgramRows() +
+    Rows rows = NullRows() + HandleRows() + InitRows() + ProgramRows() +
                 EmptyTargetRows<&tagFrameBuffObject::width>("width") +
                 EmptyTargetRows<&tagFrameBuffObject::height>("height");
     for (const Drawing& drawing : drawings) {

@@ -36,13 +36,29 @@ Rows SurfaceRows();
 Rows DrawingRows();
 Rows TextRows();
 
-class ConditionGLTest : public LifecycleFixture, public ::testing::WithParamInterface<Row> {
-public:
+/// What the operations are called with; this one is good.
+struct Request {
     static constexpr unsigned int untouched = 77;
+    static constexpr tagZoRectInfo all = {0, 0, 8, 8};
+    static constexpr tagZoColorRGBA color = {255, 255, 255, 255};
 
+    std::string_view missing = ""; ///< the pointer that is null
+    int format = ZO_FORMAT_RGBA8888;
+    unsigned int buffer = 0x10001; ///< to destroy
+    unsigned int handle = ZO_WINDOW_HANDLE;
+    tagZoBlitInfo blit = {ZO_WINDOW_HANDLE, ZO_WINDOW_HANDLE, all, all};
+    tagZoBitmapInfo bitmap = {&color.r, ZO_FORMAT_RGBA8888, 0, 0, 1, 1, all};
+    tagZoTextInfo text = {u"AB", 2, color, {}, 0, 40, 0, 0, 0};
+    unsigned int size[2] = {untouched, untouched}; ///< or a handle, where one is received
+};
+
+class ConditionGLTest : public LifecycleFixture,
+                        public Request,
+                        public ::testing::WithParamInterface<Row> {
+public:
     void SetUp() override;
 
-    /// A good request, and a harness without faults, where every font shows A and B.
+    /// Makes the request good, and the harness one without faults, where fonts show A and B.
     void Restore();
 
     /// What there is, a word each.
@@ -54,38 +70,30 @@ public:
     void WindowLost();
 
     // The operations, called with the request.
-    int BindWindow() { return surface->ZoCreateGLWindowSurface(native); }
+    int BindWindow() { return surface->ZoCreateGLWindowSurface(Given("window", window.Native())); }
     int InitAll() { return surface->Init(0x3F); }
-    int CreateBuffer() { return surface->ZoCreateGLFBO(made, 4, 3, format); }
+    int CreateBuffer() { return surface->ZoCreateGLFBO(Given("handle", &size[0]), 4, 3, format); }
     int DestroyBuffer() { return surface->ZoDestoryGLFBO(buffer); }
-    int DrawRect() { return surface->ZoDrawRect(handle, rect, color); }
-    int Blit() { return surface->ZoBlit(hasInfo ? &blit : nullptr); }
-    int Present() { return surface->ZoDisplayFBO(handle, source, rect); }
-    int DisplayBitmap() { return surface->ZoDisplayBitmap(hasInfo ? &bitmap : nullptr); }
-    int LoadFont() { return surface->ZoLoadFont(path, 40); }
-    int Measure() { return surface->ZoGetTextSize(hasInfo ? &text : nullptr, width, height); }
-    int DrawText() { return surface->ZoDrawText(handle, hasInfo ? &text : nullptr, rect); }
+    int DrawRect() {
+        return surface->ZoDrawRect(handle, Given("rect", &all), Given("color", &color));
+    }
+    int Blit() { return surface->ZoBlit(Given("info", &blit)); }
+    int Present() {
+        return surface->ZoDisplayFBO(handle, Given("source", &all), Given("rect", &all));
+    }
+    int DisplayBitmap() { return surface->ZoDisplayBitmap(Given("info", &bitmap)); }
+    int LoadFont() { return surface->ZoLoadFont(Given("path", ZOGLES_TEST_FONT), 40); }
+    int Measure();
+    int DrawText();
 
-    // The request.
-    ANativeWindow* native;
-    unsigned int* made; ///< points to size[0], as the width does
-    int format;
-    unsigned int buffer; ///< to destroy
-    unsigned int handle; ///< of the target
-    const tagZoRectInfo* source;
-    const tagZoRectInfo* rect;
-    const tagZoColorRGBA* color;
-    bool hasInfo;
-    tagZoBlitInfo blit;
-    tagZoBitmapInfo bitmap;
-    const char* path;
-    tagZoTextInfo text;
-    unsigned int* width;
-    unsigned int* height;
-
-    unsigned int size[2];
     std::vector<std::string> calls; ///< the operation's
     GLuint drawnTexture = 0;        ///< the text renderer's before the operation
+
+private:
+    template <typename Value>
+    Value* Given(std::string_view part, Value* value) const {
+        return part == missing ? nullptr : value;
+    }
 };
 using C = ConditionGLTest;
 
@@ -104,8 +112,14 @@ inline Step Fail(const char* call, int nth = 1) {
 inline Step RefuseAllocation(int nth) {
     return [=](C&) { harness::RefuseAllocation(nth); };
 }
+inline Step And(const Step& first, const Step& second) {
+    return [=](C& c) { first(c), second(c); };
+}
+inline Step Without(std::string_view part) {
+    return [=](C& c) { c.missing = part; };
+}
 template <typename Value>
-Step Set(Value C::*member, Value value) {
+Step Set(Value Request::*member, Value value) {
     return [=](C& c) { c.*member = value; };
 }
 

@@ -7,10 +7,6 @@
 
 namespace {
 
-constexpr tagZoRectInfo area = {0, 0, 8, 8};
-constexpr tagZoColorRGBA white = {1, 1, 1, 1};
-constexpr unsigned char pixel[4] = {255, 255, 255, 255};
-
 std::string Change(const std::set<std::string>& before, const std::set<std::string>& after) {
     std::string change;
     for (const std::string& word : after) {
@@ -55,20 +51,7 @@ void ConditionGLTest::SetUp() {
 }
 
 void ConditionGLTest::Restore() {
-    native = window.Native();
-    size[0] = size[1] = untouched;
-    made = width = &size[0];
-    height = &size[1];
-    format = ZO_FORMAT_RGBA8888;
-    buffer = 0x10001;
-    handle = ZO_WINDOW_HANDLE;
-    source = rect = &area;
-    color = &white;
-    hasInfo = true;
-    blit = {ZO_WINDOW_HANDLE, ZO_WINDOW_HANDLE, area, area};
-    bitmap = {pixel, ZO_FORMAT_RGBA8888, 0, 0, 1, 1, area};
-    path = ZOGLES_TEST_FONT;
-    text = {u"AB", 2, white, {}, 0, 40, 0, 0, 0};
+    static_cast<Request&>(*this) = Request();
     harness::Reset();
     harness::Current().infoLogLength = 0; // the driver's own words are not at issue
     harness::Current().fontFile = ZOGLES_TEST_FONT;
@@ -120,6 +103,17 @@ void ConditionGLTest::WithAll() {
 void ConditionGLTest::WindowLost() {
     WithAll();
     surface->ZoDestoryGLWindowSurface();
+}
+
+int ConditionGLTest::Measure() {
+    text.text = Given("units", text.text);
+    return surface->ZoGetTextSize(Given("info", &text), Given("width", &size[0]),
+                                  Given("height", &size[1]));
+}
+
+int ConditionGLTest::DrawText() {
+    text.text = Given("units", text.text);
+    return surface->ZoDrawText(handle, Given("info", &text), Given("rect", &all));
 }
 
 TEST_P(ConditionGLTest, Holds) {

@@ -1,4 +1,4 @@
-// Binding, the components' creation and the buffers' handles.
+// Binding, and the buffers' handles.
 
 #include "FailureRows.h"
 
@@ -29,7 +29,7 @@ Rows BindingRows() {
         harness::FailCall("eglMakeCurrent");
         c.BindWindow();
     };
-    const auto noWindow = Set<ANativeWindow*>(&C::native, nullptr);
+    const auto noWindow = Without("window");
     const Log isNull = {SurfaceLine("native window is NULL\n")};
     const Step expectNothing = [](C&) { EXPECT_EQ(harness::DescribeLive(), ""); };
     return {
@@ -69,30 +69,6 @@ Rows BindingRows() {
     };
 }
 
-Rows InitRows() {
-    const struct {
-        const char* tag;
-        const char* line;
-        const char* made; ///< before it
-    } components[] = {
-        {"OSDText", "OSD text init fail 20\n", ""},
-        {"OSDBlit", "OSD blit init fail 20\n", "+text "},
-        {"OSDBitmap", "OSD bitmap fail 20\n", "+blit +text "},
-        {"OSDFrame", "OSD frame init fail 20\n", "+bitmap +blit +text "},
-        {"OSDRect", "OSD Rect init fail 20\n", "+bitmap +blit +frame +text "},
-    };
-    Rows rows;
-    for (const auto& [tag, line, made] : components) {
-        const int nth = static_cast<int>(rows.size()) + 1;
-        rows.emplace_back(std::string("init_") + tag + "_fails", &C::WithFont,
-                          Fail("glCreateProgram", nth), &C::InitAll, ZO_PROGRAM_FAILED,
-                          Log{Line("ShaderProgram", "create program fail\n"),
-                              Line(tag, "create shader program fail"), SurfaceLine(line)},
-                          made);
-    }
-    return rows;
-}
-
 void FillTable(C& c) {
     for (unsigned int i = 1; i <= 16; ++i) {
         c.surface->SaveFboInfo(0x20000 + i, 4, 3, GL_RGBA);
@@ -118,17 +94,17 @@ Rows CreateBufferRows() {
         EXPECT_TRUE(c.size[0] == c.untouched && c.calls.empty());
     };
     const Step expectRgba = [](C& c) {
-        c.handle = *c.made;
+        c.handle = c.size[0];
         EXPECT_EQ(c.DrawRect(), ZO_SUCCESS);
         EXPECT_EQ(c.Read(c.handle).At(3, 2), (Pixel{255, 255, 255, 255}));
     };
     Rows rows = {
-        Row("create_buffer_null_handle", withoutPool, Set<unsigned int*>(&C::made, nullptr), create,
-            ZO_INVALID_PARAM, {SurfaceLine("param is invalid\n")}),
+        Row("create_buffer_null_handle", withoutPool, Without("handle"), create, ZO_INVALID_PARAM,
+            {SurfaceLine("param is invalid\n")}),
         Row("create_buffer_unbound", &C::WindowLost, {}, create, ZO_FAILURE,
             {SurfaceLine("no window is bound, FBO is not created\n")}, "", expectUntouched,
             &C::Bound),
-        Row("create_buffer_unknown_format", &C::Bound, Set(&C::format, 8), create, ZO_SUCCESS,
+        Row("create_buffer_unknown_format", &C::Bound, Set(&Request::format, 8), create, ZO_SUCCESS,
             {SurfaceLine("Color format is invalid 8\n"), complete}, created, expectRgba),
         Row("create_buffer_pool_full", FillPool, {}, create, ZO_NO_FREE_FBO,
             {Line("FBOManager", full), SurfaceLine("Create FBO fail 15\n")}, "", expectNoCall,
@@ -195,7 +171,7 @@ Rows HandleRows() {
     for (const unsigned int handle : {0U, ZO_WINDOW_HANDLE, 0x10002U, ZO_NO_HANDLE}) {
         const std::string line = "FBO is not exist fboHandleIndex " + std::to_string(handle) + "\n";
         rows.emplace_back("destroy_buffer_unknown_handle_" + std::to_string(handle), &C::WithAll,
-                          Set(&C::buffer, handle), &C::DestroyBuffer, ZO_SUCCESS,
+                          Set(&Request::buffer, handle), &C::DestroyBuffer, ZO_SUCCESS,
                           Log{Line("FBOManager", line), SurfaceLine(line)});
     }
     return rows;
@@ -204,5 +180,5 @@ Rows HandleRows() {
 } // namespace
 
 Rows SurfaceRows() {
-    return BindingRows() + InitRows() + CreateBufferRows() + HandleRows();
+    return BindingRows() + CreateBufferRows() + HandleRows();
 }
