@@ -96,6 +96,7 @@ Rows CreateBufferRows() {
     const Step expectRgba = [](C& c) {
         c.handle = c.size[0];
         EXPECT_EQ(c.DrawRect(), ZO_SUCCESS);
+        EXPECT_EQ(c.surface->fboInfo[0].format, GL_RGBA);
         EXPECT_EQ(c.Read(c.handle).At(3, 2), (Pixel{255, 255, 255, 255}));
     };
     Rows rows = {

@@ -86,6 +86,10 @@ TEST_F(ShaderProgramGLTest, LeavesNothingOfSourcesThatDoNotBuild) {
         EXPECT_THAT(log[0].text, testing::MatchesRegex(text));
         EXPECT_EQ(harness::DescribeLive(), live);
     }
+    harness::FailCall("glGetShaderiv", 2); // the length of the log stays untold
+    EXPECT_EQ(program.CreateProgram(broken, frag), 0U);
+    EXPECT_THAT(harness::TakeLog()[0].text,
+                testing::MatchesRegex("Could not compile shader [0-9]+:\n\n"));
 }
 
 TEST_F(ShaderProgramGLTest, PrintsTheDriversLog) {
