@@ -134,7 +134,7 @@ Rows RefusalRows(const Drawing& drawing) {
 Rows InitRows() {
     std::set<std::string> made;
     Rows rows;
-    for (const size_t i : {4, 1, 3, 2, 0}) {
+    for (const int i : {4, 1, 3, 2, 0}) {
         const Log log = InitFails(drawings[i], ZO_PROGRAM_FAILED,
                                   {Line("ShaderProgram", "create program fail\n")});
         const int nth = static_cast<int>(made.size()) + 1;

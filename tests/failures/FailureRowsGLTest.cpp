@@ -78,7 +78,9 @@ std::set<std::string> ConditionGLTest::State() const {
         std::ostringstream word;
         word << kind << std::hex << entry.handle << std::dec;
         word << ':' << entry.width << 'x' << entry.height;
-        entry.handle == ZO_NO_HANDLE ? false : words.insert(word.str()).second;
+        if (entry.handle != ZO_NO_HANDLE) {
+            words.insert(word.str());
+        }
     };
     for (const TagFboInfo& record : s.fboInfo) {
         addBuffer("record", record);
