@@ -1,7 +1,5 @@
 #include "LifecycleFixture.h"
 
-#include <array>
-
 namespace {
 
 class InitGLTest : public LifecycleFixture {
@@ -15,7 +13,6 @@ protected:
 };
 
 constexpr char everything[] = "text blit bitmap frame rect pool ";
-constexpr char outOfMemory[] = "out of memory\n";
 
 } // namespace
 
@@ -33,39 +30,4 @@ TEST_F(InitGLTest, CreatesWhatTheFlagsName) {
         EXPECT_EQ(harness::Record(again), Calls()); // what is there stays
     }
     EXPECT_EQ(Target(0x10000).width, windowWidth);
-}
-
-TEST_F(InitGLTest, SurvivesEveryRefusedAllocation) {
-    const tagZoTextInfo text = {u"A", 1, {255, 255, 255, 255}, {}, 0, 20, 1, 0, 1};
-    const tagZoRectInfo rect = {0, 0, 4, 4};
-    unsigned int handle = 0;
-    std::array<int, 4> codes;
-    const auto useAll = [&] {
-        codes = {surface->ZoCreateGLWindowSurface(window.Native()), surface->Init(allComponents),
-                 surface->ZoCreateGLFBO(&handle, 4, 4, 9),
-                 surface->ZoDrawText(ZO_WINDOW_HANDLE, &text, &rect)};
-    };
-    const std::array<int, 4> successes = {};
-    const int allocations = harness::CountAllocations(useAll);
-    EXPECT_EQ(codes, successes);
-    EXPECT_GT(allocations, 10);
-    for (int nth = 1; nth <= allocations; ++nth) {
-        SCOPED_TRACE(nth);
-        surface = std::make_unique<ZoGLDrawSurface>();
-        harness::TakeLog();
-        harness::RefuseAllocation(nth);
-        useAll();
-        harness::RefuseAllocation(0);
-        for (const int code : codes) {
-            EXPECT_TRUE(code == ZO_SUCCESS || code == ZO_FAILURE || code == ZO_PROGRAM_FAILED)
-                << code;
-        }
-        const Log log = TakeLogAboveVerbose();
-        EXPECT_TRUE(std::any_of(log.begin(), log.end(), [](const harness::LogLine& line) {
-            return line.text == outOfMemory || line.text == "create shader program fail";
-        }));
-        surface->ZoDestoryGLWindowSurface();
-        useAll();
-        EXPECT_EQ(codes, successes);
-    }
 }

@@ -8,44 +8,6 @@ class FontLoadingGLTest : public TextFixture {};
 
 } // namespace
 
-TEST_F(FontLoadingGLTest, AnyStepOfALoadOrAStyledDrawMayFail) {
-    UseFirst(60);
-    Load();
-    Drawn(u"AB", {20});
-    const std::string alive = harness::DescribeLive();
-    int faults = 0;
-    for (const char* call :
-         {"FT_Init_FreeType", "FT_New_Face", "FT_Set_Pixel_Sizes", "FT_Load_Char",
-          "FT_Outline_Embolden", "FT_Render_Glyph", "glActiveTexture", "glGenTextures",
-          "glBindTexture", "glTexImage2D", "glPixelStorei", "glTexParameteri", "glTexSubImage2D",
-          "glGetIntegerv"}) {
-        bool isReached = true;
-        for (int nth = 1; isReached; ++nth, ++faults) {
-            SCOPED_TRACE(call + std::string(" call ") + std::to_string(nth));
-            const int before = harness::CountOf(call);
-            harness::FailCall(call, nth);
-            for (const int code :
-                 {surface->ZoLoadFont(sansPath, 40), Draw(u"AB"), Draw(u"AB", {20, true})}) {
-                EXPECT_TRUE(code == ZO_SUCCESS || code == ZO_FREETYPE_FAILED ||
-                            code == ZO_FONT_FACE_FAILED || code == ZO_FONT_ATLAS_EMPTY ||
-                            code == ZO_FAILURE)
-                    << code;
-            }
-            isReached = harness::CountOf(call) - before >= nth;
-            harness::Current().faults.clear();
-            while (glGetError() != GL_NO_ERROR) { // of the calls that went without the failed one
-            }
-            Load();
-            Drawn(u"AB");
-            EXPECT_TRUE(Shows(u"AB", {}));
-            Drawn(u"AB", {20, true});
-            EXPECT_TRUE(Shows(u"AB", {20, true}));
-            EXPECT_EQ(harness::DescribeLive(), alive);
-        }
-    }
-    EXPECT_GT(faults, 200);
-}
-
 TEST_F(FontLoadingGLTest, ASizeThatCannotBeSetLeavesTheOldOne) {
     Load();
     Drawn(u"M", {20});
