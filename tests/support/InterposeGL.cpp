@@ -118,7 +118,7 @@ QUERY(glGetProgramiv)
 #define LOCATE(name)                                                                               \
     extern "C" GLint name(GLuint program, const GLchar* variable) {                                \
         INTERPOSE(name, (program, variable));                                                      \
-        return isFailing ? -1 : harness::Current().location.value_or(real(program, variable));      \
+        return isFailing ? -1 : harness::Current().location.value_or(real(program, variable));     \
     }
 LOCATE(glGetAttribLocation)
 LOCATE(glGetUniformLocation)
