@@ -5,11 +5,13 @@
 #include <string_view>
 
 // The C library's own allocator, behind the names that are defined here.
+// NOLINTBEGIN(bugprone-reserved-identifier): its names
 extern "C" {
 void* __libc_malloc(size_t size);
 void* __libc_calloc(size_t count, size_t size);
 void* __libc_realloc(void* memory, size_t size);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 

@@ -10,10 +10,12 @@
 #include <string>
 #include <vector>
 
-/// One argument of a call, as text.
+/// One argument of a call, as text, which whatever is passed turns into.
 struct Argument {
     template <typename Number>
+    // cppcheck-suppress noExplicitConstructor
     Argument(Number number) : text(std::to_string(number)) {}
+    // cppcheck-suppress noExplicitConstructor
     Argument(std::string written) : text(std::move(written)) {}
 
     std::string text;

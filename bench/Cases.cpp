@@ -173,7 +173,7 @@ std::vector<Case> BasicCases(Stage& stage) {
         BitmapCase(stage, "bitmap/256x256", 256, 256, {900, 100, 256, 256}),
         BitmapCase(stage, "bitmap/1920x1080", 1920, 1080, wholeWindow),
     };
-    for (const size_t length : {10, 24, 30, 100, 1000}) {
+    for (const size_t length : {10U, 24U, 30U, 100U, 1000U}) {
         cases.push_back(TextCase(stage, "text/", length));
     }
     cases.push_back(SpacesCase(stage));
@@ -183,7 +183,7 @@ std::vector<Case> BasicCases(Stage& stage) {
         unsigned int height = 0;
         stage.surface.ZoGetTextSize(&info, &width, &height);
     }));
-    for (const size_t length : {20, 30}) {
+    for (const size_t length : {20U, 30U}) {
         cases.push_back(StyledCase(stage, length, "plain", {32, false, false}));
         cases.push_back(StyledCase(stage, length, "bold", {32, true, false}));
         cases.push_back(StyledCase(stage, length, "italic", {32, false, true}));
@@ -201,7 +201,8 @@ std::vector<Case> BasicCases(Stage& stage) {
 
 std::vector<Case> TextGrowthCases(Stage& stage) {
     std::vector<Case> cases;
-    for (const size_t length : {1, 3, 10, 30, 100, 300, 1000, 3000, 10000, 30000, 100000}) {
+    for (const size_t length :
+         {1U, 3U, 10U, 30U, 100U, 300U, 1000U, 3000U, 10000U, 30000U, 100000U}) {
         cases.push_back(TextCase(stage, "growth/text/", length));
     }
     return cases;

@@ -100,7 +100,7 @@ Floor::Box Floor::TextureBox(const tagZoRectInfo& rect, int width, int height) {
             top - static_cast<float>(rect.height) / static_cast<float>(height)};
 }
 
-void Floor::FillRect(const Target& target, const tagZoRectInfo& rect, const Color& color) {
+void Floor::FillRect(const Target& target, const tagZoRectInfo& rect, const Color& color) const {
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glViewport(0, 0, target.width, target.height);
     glUseProgram(rectProgram);

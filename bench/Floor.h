@@ -43,7 +43,7 @@ public:
 
     Target CreateTarget(int width, int height);
 
-    void FillRect(const Target& target, const tagZoRectInfo& rect, const Color& color);
+    void FillRect(const Target& target, const tagZoRectInfo& rect, const Color& color) const;
     void Blit(const Target& from, const Target& to, const tagZoRectInfo& src,
               const tagZoRectInfo& dst);
     void Present(const Target& from, const tagZoRectInfo& src, const tagZoRectInfo& dst);

@@ -204,7 +204,7 @@ void Floor::DrawUnits(const Target& target, const Atlas& atlas, GLenum textureUn
         vertex[5] = {right, bottom, glyph.s1, glyph.t1};
         pen += glyph.advance * pixelX;
     }
-    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(length * 6 * sizeof(Vertex)),
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(sizeof(Vertex) * 6 * length),
                  vertices.data(), GL_DYNAMIC_DRAW);
     glDrawArrays(GL_TRIANGLES, 0, static_cast<GLsizei>(length * 6));
     glBindBuffer(GL_ARRAY_BUFFER, 0);

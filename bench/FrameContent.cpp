@@ -8,7 +8,7 @@ constexpr unsigned int bitmapSide = 256;
 } // namespace
 
 FrameContent::FrameContent(const Stage& usedStage)
-    : stage(usedStage), text(Line(30)), pixels(bitmapSide * bitmapSide * 4, 120),
+    : stage(usedStage), text(Line(30)), pixels(size_t{bitmapSide} * bitmapSide * 4, 120),
       line(Request(text, white)), bitmap{pixels.data(), ZO_FORMAT_RGBA8888,  0, 0, bitmapSide,
                                          bitmapSide,    {900, 400, 256, 256}} {
     for (unsigned int i = 0; i < rectCount; ++i) {

@@ -12,6 +12,7 @@
 class FrameContent {
 public:
     explicit FrameContent(const Stage& stage);
+    ~FrameContent() = default;
     FrameContent(const FrameContent&) = delete;
     FrameContent& operator=(const FrameContent&) = delete;
 

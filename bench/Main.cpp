@@ -37,7 +37,7 @@ void Register(std::vector<Case>& cases) {
 }
 
 std::vector<unsigned char> ReadWindow() {
-    std::vector<unsigned char> pixels(windowWidth * windowHeight * 4);
+    std::vector<unsigned char> pixels(size_t{windowWidth} * windowHeight * 4);
     glReadPixels(0, 0, windowWidth, windowHeight, GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
     return pixels;
 }
@@ -49,7 +49,7 @@ int Check(Stage& stage, std::vector<Case>& cases) {
             continue;
         }
         std::vector<unsigned char> shown[2];
-        for (int i = 0; i < 2; ++i) {
+        for (size_t i = 0; i < 2; ++i) {
             stage.Reset();
             work.sides[i].run(1);
             if (!work.isOnWindow) {
@@ -90,6 +90,7 @@ void Append(std::vector<Case>&& more, std::vector<Case>* cases) {
 
 } // namespace
 
+// NOLINTNEXTLINE(bugprone-exception-escape): without memory there is nothing to measure
 int main(int argc, char** argv) {
     // Before the first call, which reads it; a variable of the caller's stands.
     setenv("ANDROID_LOG_TAGS", "*:S", 0);

@@ -41,6 +41,10 @@ GLuint GenerateOne() {
     return name;
 }
 
+[[maybe_unused]] GLsizeiptr PixelBytes(GLenum format, GLsizei width, GLsizei height) {
+    return GLsizeiptr{width} * height * (format == GL_RGBA ? 4 : 1);
+}
+
 } // namespace
 
 // Parameters are named so that the recorder can take them; most builds use none of them.
@@ -122,13 +126,13 @@ NOTHING(glTexImage2D,
         (GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
          GLint border, GLenum format, GLenum type, const void* pixels),
         target, level, internalFormat, width, height, border, format, type,
-        Upload(pixels, width* height*(format == GL_RGBA ? 4 : 1)))
+        Upload(pixels, PixelBytes(format, width, height)))
 NOTHING(glTexParameteri, (GLenum target, GLenum what, GLint value), target, what, value)
 NOTHING(glTexSubImage2D,
         (GLenum target, GLint level, GLint x, GLint y, GLsizei width, GLsizei height, GLenum format,
          GLenum type, const void* pixels),
         target, level, x, y, width, height, format, type,
-        Upload(pixels, width* height*(format == GL_RGBA ? 4 : 1)))
+        Upload(pixels, PixelBytes(format, width, height)))
 NOTHING(glUniform1i, (GLint location, GLint value), location, value)
 NOTHING(glUniform4fv, (GLint location, GLsizei count, const GLfloat* value), location, count,
         value[0], value[1], value[2], value[3])

@@ -5,6 +5,7 @@
 #include <zogles/ZoGLDrawSurface.h>
 
 #include <algorithm>
+#include <cmath>
 
 struct Rect {
     int x;
@@ -27,12 +28,14 @@ struct Color {
     int alpha = 255;
 };
 
+inline int Round(double value) {
+    return static_cast<int>(std::lround(value));
+}
+
 /// `share` of the second colour (0 to 1) over the first. Rectangles and copies replace what they
 /// cover, so whatever shall look translucent is mixed here before it is painted.
 inline Color Mix(const Color& under, const Color& over, double share) {
-    const auto channel = [share](int from, int to) {
-        return static_cast<int>(from + (to - from) * share + 0.5);
-    };
+    const auto channel = [share](int from, int to) { return Round(from + (to - from) * share); };
     return {channel(under.red, over.red), channel(under.green, over.green),
             channel(under.blue, over.blue), channel(under.alpha, over.alpha)};
 }

@@ -83,8 +83,9 @@ Color Landscape::GetMeanColor(const Rect& cell, int columns, int rows) const {
     constexpr int samples = 8;
     int sum[3] = {};
     for (int i = 0; i < samples * samples; ++i) {
+        const int row = i / samples;
         const double x = cell.x - 0.5 + (i % samples + 0.5) * 2 / samples;
-        const double y = cell.y - 0.5 + (i / samples + 0.5) * 2 / samples;
+        const double y = cell.y - 0.5 + (row + 0.5) * 2 / samples;
         const Color color = GetColor(x / columns * aspect, y / rows);
         sum[0] += color.red;
         sum[1] += color.green;
@@ -115,7 +116,7 @@ void Landscape::Paint(Canvas& canvas, Stage& stage, int alpha) const {
     for (const Ridge& ridge : ridges) {
         for (int x = 0; x < fine.width; x += step) {
             const double top = GetRidgeTop(ridge, (x + step * 0.5) / fine.width * aspect);
-            const int y = static_cast<int>(top * fine.height + 0.5);
+            const int y = Round(top * fine.height);
             stage.FillFine({x, y, step, fine.height - y}, WithAlpha(ridge.color, alpha));
         }
     }

@@ -11,7 +11,8 @@ constexpr int mostRows = 12;
 Layout::Layout(const Rect& windowRect)
     : window(windowRect),
       unit(std::min(windowRect.width / designWidth, windowRect.height / designHeight)),
-      radius(Scale(18)), standardText(std::max(8, Scale(40))), bannerLine(), subtitleLine() {
+      radius(Scale(18)), standardText(std::max(8, Scale(40))), bannerLine(), rowHeight(Scale(44)),
+      subtitleLine() {
     const int margin = Scale(40);
     const int gap = Scale(20);
 
@@ -31,7 +32,6 @@ Layout::Layout(const Rect& windowRect)
     const int header = Scale(72);
     const int foot = Scale(24);
     const int side = Scale(16);
-    rowHeight = Scale(44);
     rowCount = std::clamp((banner.y - gap - margin - header - foot) / rowHeight, 2, mostRows);
     menu = {margin, margin, Scale(400), header + rowCount * rowHeight + foot};
     list = {menu.x + side, menu.y + header, menu.width - 2 * side - Scale(14),
@@ -48,5 +48,5 @@ Layout::Layout(const Rect& windowRect)
 }
 
 int Layout::Scale(double length) const {
-    return std::max(1, static_cast<int>(length * unit + 0.5));
+    return std::max(1, Round(length * unit));
 }

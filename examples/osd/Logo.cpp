@@ -52,8 +52,9 @@ Color SamplePixel(const Rect& rect, int x, int y) {
     constexpr int samples = 4;
     double sum[4] = {};
     for (int i = 0; i < samples * samples; ++i) {
+        const int row = i / samples;
         const double u = (x - rect.x + (i % samples + 0.5) / samples) / rect.width;
-        const double v = (y - rect.y + (i / samples + 0.5) / samples) / rect.height;
+        const double v = (y - rect.y + (row + 0.5) / samples) / rect.height;
         const Color color = GetColor(u, v);
         sum[0] += color.red * color.alpha;
         sum[1] += color.green * color.alpha;
@@ -63,8 +64,8 @@ Color SamplePixel(const Rect& rect, int x, int y) {
     if (sum[3] == 0) {
         return Palette::transparent;
     }
-    const auto mean = [&](int channel) { return static_cast<int>(sum[channel] / sum[3] + 0.5); };
-    return {mean(0), mean(1), mean(2), static_cast<int>(sum[3] / (samples * samples) + 0.5)};
+    const auto mean = [&](int channel) { return Round(sum[channel] / sum[3]); };
+    return {mean(0), mean(1), mean(2), Round(sum[3] / (samples * samples))};
 }
 
 // The glow fades to nothing by its alpha. Eight bits of a wide, dark gradient show as rings; some
@@ -82,7 +83,7 @@ Color GetGlow(const Rect& rect, int x, int y) {
 Color Over(const Color& under, const Color& over) {
     const double share = over.alpha / 255.0;
     Color mixed = Mix(under, over, share);
-    mixed.alpha = static_cast<int>(over.alpha + under.alpha * (1 - share) + 0.5);
+    mixed.alpha = Round(over.alpha + under.alpha * (1 - share));
     return mixed;
 }
 

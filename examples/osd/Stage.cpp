@@ -14,7 +14,7 @@ int ChooseScale(int width, int height) {
 // How far a quarter circle leaves the side of its square in a row, counted from the circle's pole.
 int CornerInset(int radius, int row) {
     const double rise = radius - row - 0.5;
-    return static_cast<int>(radius - std::sqrt(radius * radius - rise * rise) + 0.5);
+    return Round(radius - std::sqrt(radius * radius - rise * rise));
 }
 
 } // namespace
@@ -40,7 +40,7 @@ void Stage::FillFine(const Rect& rect, const Color& color) {
 }
 
 void Stage::ForEachStrip(const Rect& rect, int radius,
-                         const std::function<void(const Rect&)>& draw) {
+                         const std::function<void(const Rect&)>& draw) const {
     const Rect fine = rect.Times(scale);
     const int corner = std::min({radius * scale, fine.width / 2, fine.height / 2});
     for (int row = 0; row < corner; ++row) {

@@ -35,7 +35,8 @@ public:
     void ReduceTo(unsigned int to, int width, int height);
 
 private:
-    void ForEachStrip(const Rect& rect, int radius, const std::function<void(const Rect&)>& draw);
+    void ForEachStrip(const Rect& rect, int radius,
+                      const std::function<void(const Rect&)>& draw) const;
 
     Canvas& canvas;
     int scale;

@@ -33,12 +33,12 @@ TextStyle Typesetter::ToStyle(const Type& type) const {
 // The library measures at the loaded size, so other sizes are a matter of proportion.
 int Typesetter::MeasureWord(std::u16string_view word, const Type& type) {
     const double width = canvas.MeasureText(word);
-    return static_cast<int>(width * type.pixels / standardPixels + 0.5);
+    return Round(width * type.pixels / standardPixels);
 }
 
 // Spaces take no room when drawn, so every word is drawn on its own and the pen moved between them.
 Line Typesetter::Arrange(std::u16string_view text, const Type& type) {
-    const int space = static_cast<int>(type.pixels * spaceWidth + 0.5);
+    const int space = Round(type.pixels * spaceWidth);
     Line line{{}, 0};
     int pen = 0;
     while (!text.empty()) {
@@ -100,5 +100,5 @@ int Typesetter::DrawCentered(unsigned int buffer, std::u16string_view text, cons
 }
 
 int Typesetter::CenterBaseline(int top, int height, int pixels) {
-    return top + static_cast<int>((height + pixels * capitalHeight) / 2 + 0.5);
+    return top + Round((height + pixels * capitalHeight) / 2);
 }

@@ -36,15 +36,17 @@ inline void ToTextureSpace(const tagZoRectInfo& in, unsigned int targetWidth,
     out->height = static_cast<float>(in.height) / static_cast<float>(targetHeight);
 }
 
-/// The intensity of each channel byte: 0 and 1 are the intensity itself, others that of 255 parts.
-inline constexpr std::array<float, 256> channelIntensity = [] {
+constexpr std::array<float, 256> MakeChannelIntensity() {
     std::array<float, 256> table = {};
     for (size_t value = 0; value < table.size(); ++value) {
         const float byte = static_cast<float>(value);
         table[value] = value <= 1 ? byte : byte / 255.0f;
     }
     return table;
-}();
+}
+
+/// The intensity of each channel byte: 0 and 1 are the intensity itself, others that of 255 parts.
+inline constexpr std::array<float, 256> channelIntensity = MakeChannelIntensity();
 
 inline tagColorRGBA ToGLColor(const tagZoColorRGBA& in) {
     return {channelIntensity[in.r], channelIntensity[in.g], channelIntensity[in.b],

@@ -20,6 +20,7 @@ constexpr unsigned int defaultWindowHeight = 1080;
 
 } // namespace
 
+// cppcheck-suppress uninitMemberVar; InitFBO fills the table of buffers
 ZoGLDrawSurface::ZoGLDrawSurface()
     : windowWidth(defaultWindowWidth), windowHeight(defaultWindowHeight), fontLoaded(false),
       surfaceCreated(false) {

@@ -94,6 +94,7 @@ unsigned int OSDFixture::CreateBuffer(const Image& image) {
 
 void OSDFixture::Display(const Image& image, const tagZoRectInfo& to, int format) {
     const tagZoRectInfo all = WholeOf(image);
-    const tagZoBitmapInfo info = {&image.pixels[0][0], format, ~0U, ~0U, all.width, all.height, to};
+    const tagZoBitmapInfo info = {
+        image.pixels[0].data(), format, ~0U, ~0U, all.width, all.height, to};
     EXPECT_EQ(surface->ZoDisplayBitmap(&info), ZO_SUCCESS);
 }

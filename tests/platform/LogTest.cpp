@@ -27,7 +27,7 @@ Writes Log(const char* filter, const std::function<bool()>& action) {
     close(ends[1]);
     Writes writes;
     char buffer[8192];
-    for (ssize_t size; (size = read(ends[0], buffer, sizeof(buffer))) > 0;) {
+    for (ssize_t size = 0; (size = read(ends[0], buffer, sizeof(buffer))) > 0;) {
         writes.emplace_back(buffer, static_cast<size_t>(size));
     }
     close(ends[0]);

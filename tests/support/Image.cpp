@@ -68,7 +68,7 @@ Matches(const Image& image, const std::function<Pixel(int x, int y)>& expected, 
                 first = "pixel (" + std::to_string(x) + ", " + std::to_string(y) + ") is " +
                         Describe(image.At(x, y)) + ", not " + Describe(want);
             }
-            difference.pixels[static_cast<size_t>(y * image.width + x)] = {255, 0, 0, 255};
+            difference.pixels[image.IndexOf(x, y)] = {255, 0, 0, 255};
         }
     }
     if (wrong == 0) {

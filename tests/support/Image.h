@@ -18,9 +18,10 @@ struct Image {
     int height = 0;
     std::vector<Pixel> pixels;
 
-    const Pixel& At(int x, int y) const {
-        return pixels[static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x)];
+    size_t IndexOf(int x, int y) const {
+        return static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x);
     }
+    const Pixel& At(int x, int y) const { return pixels[IndexOf(x, y)]; }
 };
 
 /// Reads the bound framebuffer.

@@ -106,7 +106,7 @@ tagFrameBuffObject SurfaceFixture::Target(unsigned int handle) {
 Image SurfaceFixture::Read(unsigned int handle) {
     const tagFrameBuffObject target = Target(handle);
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
-    const Image image = ReadPixels(target.width, target.height);
+    Image image = ReadPixels(target.width, target.height);
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
     return image;
 }

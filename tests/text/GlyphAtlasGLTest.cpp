@@ -77,7 +77,7 @@ TEST_F(GlyphAtlasGLTest, PlacesAndRecordsWhatFits) {
         const FontAtlas& atlas = *surface->fontAtlas;
         const unsigned int columns = atlas.GetFontTextureWidth();
         const unsigned int rows = atlas.GetFontTextureHeight();
-        EXPECT_EQ(c.size.find(std::to_string(columns) + " x " + std::to_string(rows) + ' '), 0u);
+        EXPECT_EQ(c.size.find(std::to_string(columns) + " x " + std::to_string(rows) + ' '), 0U);
         std::ostringstream cells;
         for (const auto& [code, glyph] : atlas.GetGlyphs()) {
             cells << ' ' << code << ':' << std::round(glyph.texX * static_cast<float>(columns))

@@ -40,12 +40,12 @@ TEST(OSDTextTest, MeasuresByTheStandardAtlasAlone) {
             info.text = c.text.data();
             info.length = static_cast<unsigned int>(c.text.size());
             info.fontSize = isStyled ? 20 : 40;
-            info.bold = info.italic = isStyled;
+            info.bold = info.italic = isStyled ? 1 : 0;
             unsigned int width = 1;
             unsigned int height = 1;
             osdText.GetTextSize(&info, &width, &height);
             EXPECT_EQ(width, c.width);
-            EXPECT_EQ(height, 50u);
+            EXPECT_EQ(height, 50U);
             std::vector<harness::LogLine> log;
             for (const unsigned int unit : c.absent) {
                 log.push_back({6, "OSDText", "Char " + std::to_string(unit) + " is not exit\n"});
@@ -55,5 +55,5 @@ TEST(OSDTextTest, MeasuresByTheStandardAtlasAlone) {
         }
     }
     EXPECT_TRUE(osdText.FindCharFromMap(u'A'));
-    EXPECT_EQ(glyphs.size(), 8u) << "measuring inserts nothing";
+    EXPECT_EQ(glyphs.size(), 8U) << "measuring inserts nothing";
 }

@@ -8,7 +8,8 @@
 namespace {
 
 float Channel(unsigned char value) {
-    return value <= 1 ? value : static_cast<float>(value) / 255.0f;
+    const float byte = static_cast<float>(value);
+    return value <= 1 ? byte : byte / 255.0f;
 }
 
 void BlendPixel(Pixel& pixel, const tagZoColorRGBA& color, unsigned char coverage) {
@@ -61,8 +62,8 @@ void ReferenceFont::Blend(Image& image, std::u16string_view text, const Style& s
             const int column = left + i % Width();
             const int row = y - face->glyph->bitmap_top + i / Width();
             if (column >= 0 && column < image.width && row >= 0 && row < image.height) {
-                BlendPixel(image.pixels[static_cast<size_t>(row * image.width + column)],
-                           style.color, bitmap.buffer[i / Width() * bitmap.pitch + i % Width()]);
+                BlendPixel(image.pixels[image.IndexOf(column, row)], style.color,
+                           bitmap.buffer[i / Width() * bitmap.pitch + i % Width()]);
             }
         }
         x += Advance();
