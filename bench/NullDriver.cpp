@@ -106,7 +106,7 @@ NOTHING(glDisable, (GLenum what), what)
 NOTHING(glDisableVertexAttribArray, (GLuint index), index)
 NOTHING(glDrawArrays, (GLenum mode, GLint first, GLsizei count), mode, first, count)
 NOTHING(glDrawElements, (GLenum mode, GLsizei count, GLenum type, const void* indices), mode, count,
-        type, Content(indices, 2 * count))
+        type, Content(indices, GLsizeiptr{2} * count))
 NOTHING(glEnable, (GLenum what), what)
 NOTHING(glEnableVertexAttribArray, (GLuint index), index)
 void glGenTextures(GLsizei count, GLuint* names) {
