@@ -20,9 +20,10 @@
 ///
 /// Messages longer than 4,000 bytes are cut.
 /// @return the number of bytes written, 0 for a message not shown, or a negative number
-// NOLINTNEXTLINE(bugprone-reserved-identifier): the platform's own name
+// NOLINTBEGIN(bugprone-reserved-identifier): the platform's own name
 extern "C" __attribute__((visibility("default"), format(printf, 3, 4))) int
 __android_log_print(int prio, const char* tag, const char* fmt, ...);
+// NOLINTEND(bugprone-reserved-identifier)
 
 #endif
 
