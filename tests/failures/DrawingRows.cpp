@@ -146,9 +146,9 @@ Rows InitRows() {
     return rows;
 }
 
-template <unsigned int component>
+template <unsigned int Component>
 int InitOne(C& c) {
-    return c.surface->Init(component);
+    return c.surface->Init(Component);
 }
 
 Rows ProgramRows() {
@@ -202,17 +202,17 @@ Rows ProgramRows() {
 }
 
 // On a target without an extent, a rectangle has none either, and text cannot be scaled.
-template <int tagFrameBuffObject::*side>
+template <int tagFrameBuffObject::*Side>
 Rows EmptyTargetRows(const std::string& name) {
     const Step prepare = [](C& c) {
         c.WithAll();
         EXPECT_EQ(c.DrawText(), ZO_SUCCESS);
-        c.surface->fboManager->slots[0].*side = 0;
+        c.surface->fboManager->slots[0].*Side = 0;
     };
-    const Step mend = [](C& c) { c.surface->fboManager->slots[0].*side = 160; };
+    const Step mend = [](C& c) { c.surface->fboManager->slots[0].*Side = 160; };
     const Step expectNoExtent = [](C&) {
         const std::vector<unsigned char>& bytes = harness::Current().bufferData;
-        for (size_t i = 0; i < 6 * 16; i += 16) { // x and y of six vertices
+        for (size_t i = 0; i < size_t{6} * 16; i += 16) { // x and y of six vertices
             EXPECT_TRUE(std::all_of(&bytes.at(i), &bytes.at(i + 8), [](int b) { return b == 0; }));
         }
     };

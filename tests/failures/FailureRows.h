@@ -42,7 +42,7 @@ struct Request {
     static constexpr tagZoRectInfo all = {0, 0, 8, 8};
     static constexpr tagZoColorRGBA color = {255, 255, 255, 255};
 
-    std::string_view missing = ""; ///< the pointer that is null
+    std::string_view missing; ///< the pointer that is null
     int format = ZO_FORMAT_RGBA8888;
     unsigned int buffer = 0x10001; ///< to destroy
     unsigned int handle = ZO_WINDOW_HANDLE;

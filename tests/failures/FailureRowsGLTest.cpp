@@ -60,11 +60,11 @@ void ConditionGLTest::Restore() {
 
 std::set<std::string> ConditionGLTest::State() const {
     const ZoGLDrawSurface& s = *surface;
-    std::istringstream parts(Components() + (s.surfaceCreated ? "bound " : "") +
-                             (s.eglManager && !s.surfaceCreated ? "half " : "") +
-                             (s.fontLoaded ? "font " : "") +
-                             (s.fontStyleAtlas && s.fontStyleAtlas->face ? "face " : "") +
-                             std::to_string(s.windowWidth) + 'x' + std::to_string(s.windowHeight));
+    std::istringstream parts(
+        Components() + (s.surfaceCreated ? "bound " : "") +
+        (s.eglManager && !s.surfaceCreated ? "half " : "") + (s.fontLoaded ? "font " : "") +
+        (s.fontStyleAtlas && s.fontStyleAtlas->face != nullptr ? "face " : "") +
+        std::to_string(s.windowWidth) + 'x' + std::to_string(s.windowHeight));
     std::set<std::string> words(std::istream_iterator<std::string>(parts), {});
     const auto addAtlas = [&](const char* name, const auto& atlas) {
         if (atlas) {

@@ -25,7 +25,7 @@ harness::LogLine Styled(const char* text) {
 }
 
 std::string EmptyFile() {
-    const std::string path = ::testing::TempDir() + "zogles_empty_font";
+    std::string path = ::testing::TempDir() + "zogles_empty_font";
     std::ofstream(path).flush();
     return path;
 }

@@ -57,6 +57,9 @@ TEST_F(FBOManagerGLTest, StartsWithTheWindowAlone) {
         EXPECT_FALSE(pool->GetFBOInst(unknown, &record));
         ExpectRecord(record, {untouched, 1, 2, 3, 4});
     }
+    tagFrameBuffObject copy = {};
+    pool->NativeFBOOut(&freeSlot, &copy);
+    ExpectRecord(copy, freeSlot);
     EXPECT_EQ(harness::TakeLog(), Log());
 }
 

@@ -58,7 +58,7 @@ TEST(LogRepeatsTest, KeepsATerminalReadable) {
     close(client);
     std::string shown;
     char buffer[4096];
-    for (ssize_t size; (size = read(terminal, buffer, sizeof(buffer))) > 0;) {
+    for (ssize_t size = 0; (size = read(terminal, buffer, sizeof(buffer))) > 0;) {
         shown.append(buffer, static_cast<size_t>(size));
     }
     waitpid(child, nullptr, 0);

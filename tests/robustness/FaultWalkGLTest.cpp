@@ -125,11 +125,11 @@ protected:
 
     Image Look(const Step& step, const Client& client) {
         switch (step.drawing) {
-        case Drawing::left:
+        case Drawing::Left:
             return Read(client.left);
-        case Drawing::right:
+        case Drawing::Right:
             return Read(client.right);
-        case Drawing::window:
+        case Drawing::Window:
             return Read(ZO_WINDOW_HANDLE);
         default:
             return {};
@@ -155,6 +155,7 @@ protected:
 
     std::vector<Trace> RunCleanSession(Client& client) {
         std::vector<Trace> traces;
+        traces.reserve(session.size());
         for (const Step& step : session) {
             traces.push_back(RunCleanly(step, client));
         }

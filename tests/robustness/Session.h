@@ -17,14 +17,14 @@ struct Client {
 };
 
 /// What a step draws on.
-enum class Drawing { none, left, right, window };
+enum class Drawing { None, Left, Right, Window };
 
 /// One operation of the session.
 struct Step {
     const char* name;
     int (*run)(Client& client); ///< an operation's code; 0 for one that has none
     std::vector<int> codes;     ///< those that the operation documents, besides success
-    Drawing drawing = Drawing::none;
+    Drawing drawing = Drawing::None;
 };
 
 /// The steps in order. They start and end without a window. Buffers are 64 by 48 pixels.

@@ -82,3 +82,13 @@ TEST_F(BufferHandlesGLTest, NamesNoBufferTwiceAfterDrawingWithoutAWindow) {
     EXPECT_EQ(CreateBuffer(6, 5), lost);
     EXPECT_EQ(Table(), "10001:6x5");
 }
+
+TEST_F(BufferHandlesGLTest, ANewPoolByItsFlagReplacesTheOneThereIs) {
+    Bind();
+    const unsigned int handle = CreateBuffer(4, 3);
+    surface->FBOManagerInit(~0x20U);
+    EXPECT_TRUE(IsThere(handle));
+    surface->FBOManagerInit(0x20);
+    EXPECT_FALSE(IsThere(handle));
+    EXPECT_EQ(Table(), "10001:4x3");
+}

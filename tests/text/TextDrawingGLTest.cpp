@@ -159,6 +159,12 @@ TEST_F(TextDrawingGLTest, BuildsVerticesByTheFormulas) {
     addQuad(12, 57, 73, 0, 1);
     addQuad(13, 52, 60, 0.5f, 0.5f);
     EXPECT_EQ(Vertices(), expected);
+    // The same for a caller of the renderer itself, who has set the target up.
+    harness::Current().bufferData.clear();
+    const Calls calls = harness::Record(
+        [&] { surface->osdText->RenderText(u"AB", 2, 10 / 128.0f - 1, 1 - 60 / 64.0f); });
+    EXPECT_EQ(Vertices(), expected);
+    EXPECT_EQ(calls.size(), 7U) << "three to bind the vertices, two to draw, two to unbind";
 
     const struct {
         int left, advance, start;
