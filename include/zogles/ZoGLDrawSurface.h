@@ -9,6 +9,7 @@
 
 #include <memory>
 
+/// Marks what the shared library exports; nothing where ZOGLES_STATIC is defined.
 #if defined(ZOGLES_STATIC)
 #define ZOGLES_API
 #else
@@ -78,7 +79,8 @@ constexpr unsigned int ZO_NO_HANDLE = 0xFFFFFFFFU;
 /// The one colour format: red, green, blue and alpha in this order, 8 bits each.
 constexpr int ZO_FORMAT_RGBA8888 = 9;
 
-/// A rectangle in pixels of its target. It may reach past the target: what lies outside is cut.
+/// A rectangle in pixels of its target, counted from the target's top-left corner. It may reach
+/// past the target's right and bottom sides: what lies outside is cut.
 struct tagZoRectInfo {
     unsigned int x;      ///< left edge, pixels from the target's left side
     unsigned int y;      ///< top edge, pixels from the target's top side
@@ -87,7 +89,7 @@ struct tagZoRectInfo {
 };
 
 /// A colour, not premultiplied. A channel of 2 to 255 means channel/255; 0 and 1 are the intensity
-/// itself, so that 1 and 255 both mean full intensity.
+/// itself, so that 1 and 255 both mean full intensity. So 2 is the darkest that is not black.
 struct tagZoColorRGBA {
     unsigned char r; ///< red
     unsigned char g; ///< green
@@ -95,7 +97,8 @@ struct tagZoColorRGBA {
     unsigned char a; ///< alpha: 0 transparent, 1 and 255 opaque
 };
 
-/// A text to draw or to measure.
+/// A text to draw or to measure. Zero it before filling it in, so that what is not set is plain:
+/// `tagZoTextInfo text = {};`
 struct tagZoTextInfo {
     const char16_t* text;         ///< UTF-16 code units, ended by a zero unit; owned by the client
     unsigned int length;          ///< how many units to draw or measure; no more are ever read
@@ -108,7 +111,7 @@ struct tagZoTextInfo {
     unsigned char italic;         ///< nonzero: slanted to the right
 };
 
-/// Client pixels to show on the window.
+/// Client pixels to show on the window, not premultiplied. They are read while the call lasts.
 struct tagZoBitmapInfo {
     const unsigned char* data; ///< width * height * 4 bytes, rows from the top; owned by the client
     int format;                ///< ZO_FORMAT_RGBA8888; any other value is logged and taken as that
@@ -121,14 +124,14 @@ struct tagZoBitmapInfo {
 
 /// A copy from one buffer into another, or within one buffer.
 struct tagZoBlitInfo {
-    unsigned int srcHandle; ///< buffer to read from
-    unsigned int dstHandle; ///< buffer to write to
+    unsigned int srcHandle; ///< buffer to read from; the window cannot be read
+    unsigned int dstHandle; ///< buffer to write to, or ZO_WINDOW_HANDLE
     tagZoRectInfo srcRect;  ///< region to read, in pixels of the source buffer
     tagZoRectInfo dstRect;  ///< region to write, in pixels of the destination buffer
 };
 
 /// What the surface remembers of one off-screen buffer, so as to create it again after the window
-/// was lost.
+/// was lost. Kept by the surface; no operation takes or returns one.
 struct TagFboInfo {
     unsigned int handle; ///< the buffer's handle; ZO_NO_HANDLE marks an empty entry
     int width;           ///< pixels
@@ -149,6 +152,17 @@ struct TagFboInfo {
 /// the whole process. Two surfaces bound at the same time in one process disturb each other.
 ///
 /// No operation throws. Where memory is refused, the operation logs a line and returns ZO_FAILURE.
+/// An operation that fails draws nothing, and leaves the buffers as they were.
+///
+/// A frame, with the result codes left out:
+/// @code
+/// const tagZoRectInfo all = {0, 0, surface.ZoGetWindowWidth(), surface.ZoGetWindowHeight()};
+/// const tagZoColorRGBA clear = {0, 0, 0, 0};
+/// surface.ZoDrawRect(buffer, &all, &clear);   // start from an empty buffer
+/// surface.ZoDrawText(buffer, &text, &pen);    // whatever belongs to the frame
+/// surface.ZoDisplayFBO(buffer, &all, &all);   // put it on the window
+/// surface.ZoRefreshOnSrceen();                // and show the window
+/// @endcode
 class ZOGLES_API ZoGLDrawSurface {
 public:
     /// Makes an unbound surface of 1920 by 1080 pixels. Makes no EGL call.
@@ -157,7 +171,9 @@ public:
     /// Releases EGL and everything the surface owns. Makes no EGL call if it was never bound.
     ~ZoGLDrawSurface();
 
+    /// A surface is not copied: it owns its context.
     ZoGLDrawSurface(const ZoGLDrawSurface&) = delete;
+    /// A surface is not assigned either.
     ZoGLDrawSurface& operator=(const ZoGLDrawSurface&) = delete;
 
     /// Binds the surface to a window, makes its context current on the calling thread and takes the
@@ -166,32 +182,45 @@ public:
     /// After a loss of the window, it creates the recorded buffers again, unless a drawing
     /// operation on the unbound surface has made a pool in the meantime.
     /// @param window stays the client's, who keeps it alive until it is let go of
-    /// @return ZO_SUCCESS, ZO_NO_DISPLAY to ZO_NO_WINDOW_SURFACE, ZO_INVALID_PARAM for a null
-    ///     window, or ZO_FAILURE when the context cannot be made current
+    /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null window, with nothing changed; a code from
+    ///     ZO_NO_DISPLAY to ZO_NO_WINDOW_SURFACE, with the surface unbound afterwards; or
+    ///     ZO_FAILURE when the context cannot be made current: call `ZoDestoryGLWindowSurface` then
     int ZoCreateGLWindowSurface(ANativeWindow* window);
 
     /// Lets go of the window: releases EGL and drops every component, font and buffer. The buffers'
-    /// handles and sizes are kept for the next binding.
+    /// handles and sizes are kept for the next binding. On an unbound surface it changes nothing
+    /// but drops what drawing operations made in the meantime.
     void ZoDestoryGLWindowSurface();
 
     /// Creates the components whose `ZoComponent` bits are set and which do not exist yet, so that
     /// no later operation has to. Other bits are ignored. Stops at the first failure and keeps what
     /// was created before it.
+    ///
+    /// Optional: each operation creates what it needs when it is first used. With it, that time is
+    /// spent before the first frame.
+    /// @param flags `ZoComponent` bits, or-ed. Load your own font first where the text bit is set,
+    ///     or the platform's default font is loaded
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_PROGRAM_FAILED, a font code (30 to 32) or ZO_FAILURE
     int Init(unsigned int flags);
 
-    /// Shows what was drawn on the window since the last call.
-    /// @return ZO_SUCCESS, or ZO_NO_EGL_MANAGER when no window is bound
+    /// Shows what was drawn on the window since the last call. What the window holds afterwards is
+    /// undefined: draw each frame as a whole. It may wait for the display.
+    /// @return ZO_SUCCESS, also when EGL could not show the frame, or ZO_NO_EGL_MANAGER when no
+    ///     window is bound
     int ZoRefreshOnSrceen() const;
 
-    /// Window width in pixels: 1920 before the first binding, then the last one that EGL told.
+    /// Tells the window's width as of the last binding; a window that is resized later has to be
+    /// bound again.
+    /// @return pixels: 1920 before the first binding, then the last width that EGL told
     unsigned int ZoGetWindowWidth() const;
 
-    /// Window height in pixels: 1080 before the first binding, then the last one that EGL told.
+    /// Tells the window's height as of the last binding.
+    /// @return pixels: 1080 before the first binding, then the last height that EGL told
     unsigned int ZoGetWindowHeight() const;
 
-    /// Creates an off-screen buffer, transparent black all over.
+    /// Creates an off-screen buffer, transparent black all over. There can be 15 of them. The
+    /// surface owns it; it lives until `ZoDestoryGLFBO`, beyond the loss of the window.
     /// @param handle receives the new buffer's handle; untouched on failure
     /// @param width,height pixels; a size that the driver cannot make is logged, and nothing drawn
     ///     into such a buffer leaves a mark
@@ -201,14 +230,21 @@ public:
     int ZoCreateGLFBO(unsigned int* handle, unsigned int width, unsigned int height, int format);
 
     /// Destroys an off-screen buffer. An unknown handle is logged and changes nothing; the window
-    /// handle counts as unknown.
+    /// handle counts as unknown. The handle may be given to a new buffer later.
+    /// @param handle what `ZoCreateGLFBO` gave
     /// @return ZO_SUCCESS, or ZO_NO_FBO_MANAGER while there is no pool of buffers, that is, mostly,
     ///     while no window is bound; the buffer comes back with the next binding then
     int ZoDestoryGLFBO(unsigned int handle);
 
     /// Fills a rectangle of a target. Colour and alpha replace what was there: alpha 0 erases.
+    /// @code
+    /// const tagZoRectInfo all = {0, 0, 640, 360};
+    /// const tagZoColorRGBA clear = {0, 0, 0, 0};
+    /// surface.ZoDrawRect(buffer, &all, &clear);   // empties a buffer of 640 by 360
+    /// @endcode
     /// @param fbo handle of a buffer, or ZO_WINDOW_HANDLE
     /// @param rect pixels of the target
+    /// @param color colour and alpha, not premultiplied
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer or an unknown handle,
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
@@ -218,6 +254,11 @@ public:
     /// in size. Colour and alpha replace what was there. Source and destination may be the same
     /// buffer and may overlap. A source region past the buffer's edges repeats its edge pixels. The
     /// window can be written to; it holds no image to read from.
+    /// @code
+    /// const tagZoBlitInfo scroll = {list, list, {0, 40, 300, 360}, {0, 0, 300, 360}};
+    /// surface.ZoBlit(&scroll);   // a list of 300 by 400 moves up by a row of 40
+    /// @endcode
+    /// @param info the two buffers and their regions
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer or an unknown handle,
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
@@ -225,7 +266,7 @@ public:
 
     /// Clears the whole window to transparent black and draws a region of a buffer on it, blended:
     /// a pixel (r, g, b, a) lands as (r*a, g*a, b*a, a*a). The call replaces everything that was
-    /// drawn on the window before it in this frame.
+    /// drawn on the window before it in this frame. On failure the window is left as it was.
     /// @param fbo handle of the buffer
     /// @param src region to show, in pixels of the buffer
     /// @param dst where to show it, in pixels of the window; the region is stretched to it
@@ -236,6 +277,7 @@ public:
 
     /// Clears the whole window to transparent black and draws client pixels on it, blended as by
     /// `ZoDisplayFBO`. Uploads the pixels at every call; nothing is kept.
+    /// @param info the pixels, and where to show them
     /// @pre the surface is bound; `info->data` holds width * height * 4 bytes, or is null for a
     ///     bitmap without defined content
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, ZO_PROGRAM_FAILED or ZO_FAILURE
@@ -254,6 +296,7 @@ public:
     /// Measures a text in pixels at the standard size, whatever size or style it asks for: the sum
     /// of its units' advances, with 30 for each unit that the font cannot show (a space, a line
     /// feed). The height is always 50.
+    /// @param info the text; only `text` and `length` count
     /// @param width,height receive the size; untouched on failure
     /// @pre the surface is bound if no text operation came before
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, a font code (30 to 32),
@@ -262,7 +305,17 @@ public:
 
     /// Draws one line of text, blended over what the target holds. Units that the font cannot show
     /// (a space, a line feed) are logged and take no room.
+    /// @code
+    /// tagZoTextInfo text = {};
+    /// text.text = u"Volume";
+    /// text.length = 6;
+    /// text.color = {255, 255, 255, 255};
+    /// text.fontSize = 40;
+    /// const tagZoRectInfo pen = {20, 60, 0, 0};   // letters stand on y = 60
+    /// surface.ZoDrawText(buffer, &text, &pen);
+    /// @endcode
     /// @param handle handle of a buffer, or ZO_WINDOW_HANDLE
+    /// @param info the text, its colour, size and style
     /// @param rect its x is where the first glyph starts and its y is the baseline, in pixels of
     ///     the target; width and height are not used and nothing is clipped to them
     /// @pre the surface is bound
