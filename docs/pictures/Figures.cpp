@@ -17,6 +17,15 @@ std::u16string Widen(const std::string& text) {
     return {text.begin(), text.end()};
 }
 
+// What the first program in the README shows. 41, because 40 would mean the labels' size here.
+void DrawFirstProgram(const std::string& path) {
+    Figure figure(660, 380);
+    const unsigned int buffer = figure.CreateBuffer(640, 360, {20, 30, 60, 255});
+    figure.DrawText(buffer, u"Hello,world", 41, white, 200, 190);
+    figure.Show(figure.Read(buffer, 640, 360), View::Colors, 10, 10);
+    figure.Save(path + "/first-program.png");
+}
+
 void DrawCoordinates(const std::string& path) {
     Figure figure(760, 420);
     const unsigned int target = figure.CreateBuffer(640, 320, night);
@@ -213,6 +222,7 @@ int main(int argc, char* argv[]) {
         return EXIT_FAILURE;
     }
     const std::string path = argv[1];
+    DrawFirstProgram(path);
     DrawCoordinates(path);
     DrawPastTarget(path);
     DrawAlpha(path);
