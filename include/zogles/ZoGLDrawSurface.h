@@ -290,7 +290,8 @@ public:
     /// @param size glyph height in pixels for text of the standard style (40, neither bold nor
     ///     italic) and for measuring; 0 means 40
     /// @pre the surface is bound
-    /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null path, a font code (30 to 32) or ZO_FAILURE
+    /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null path, with nothing changed; a font code (30 to
+    ///     32) or ZO_FAILURE: the font loaded before is gone then, so load one again
     int ZoLoadFont(const char* path, unsigned int size);
 
     /// Measures a text in pixels at the standard size, whatever size or style it asks for: the sum
