@@ -82,7 +82,7 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame, unsigned int strength) {
     Check("clearing", surface.ZoDrawRect(frame, &all, &nothing));
     const auto alpha = static_cast<unsigned char>(strength * 255 / 100);
     for (size_t i = 0; i < std::size(lines); ++i) {
-        const unsigned int lineWidth = LayOut(surface, lines[i], [](const tagZoTextInfo&, int) {});
+        const unsigned int lineWidth = LayOut(surface, lines[i], [](auto&, unsigned) {});
         LayOut(surface, lines[i], [&](const tagZoTextInfo& word, unsigned int x) {
             DrawOutlined(surface, frame, word, (width - lineWidth) / 2 + x, baselines[i], alpha);
         });
