@@ -33,7 +33,8 @@ constexpr unsigned int width = 640;
 constexpr unsigned int height = 120;
 constexpr unsigned int textSize = 24;     // what the font is loaded at,
 constexpr unsigned int standardSize = 40; // which plain text then asks for by this number
-constexpr unsigned int volume = 65;       // per cent
+constexpr unsigned int volume = 65;       // per cent, and as the text below
+constexpr unsigned int figuresWidth = 31; // of that text
 constexpr char fontFile[] = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
 
 void Check(const char* what, int code) {
@@ -76,7 +77,7 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame) {
     Fill(surface, frame, all, {0, 0, 0, 0});
     Fill(surface, frame, {16, 16, width - 32, height - 32}, {12, 16, 34, 190});
     DrawWord(surface, frame, u"Volume", 44, 69);
-    DrawWord(surface, frame, u"65", width - 44 - 31, 69);
+    DrawWord(surface, frame, u"65", width - 44 - figuresWidth, 69);
     constexpr unsigned int parts = 20;
     for (unsigned int i = 0; i < parts; ++i) {
         const bool isLit = i * 100 < volume * parts;

@@ -58,7 +58,7 @@ unsigned int LayOut(ZoGLDrawSurface& surface, std::u16string_view line, Place pl
         pen += wordWidth + spaceWidth;
         line.remove_prefix(std::min(size_t{word.length} + 1, line.size()));
     }
-    return pen - spaceWidth;
+    return pen > 0 ? pen - spaceWidth : 0;
 }
 
 // The outline is the word itself in black, a little off to all sides. The word goes on top of it.
@@ -83,8 +83,9 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame, unsigned int strength) {
     const auto alpha = static_cast<unsigned char>(strength * 255 / 100);
     for (size_t i = 0; i < std::size(lines); ++i) {
         const unsigned int lineWidth = LayOut(surface, lines[i], [](auto&, unsigned) {});
+        const unsigned int left = lineWidth + 4 < width ? (width - lineWidth) / 2 : 2;
         LayOut(surface, lines[i], [&](const tagZoTextInfo& word, unsigned int x) {
-            DrawOutlined(surface, frame, word, (width - lineWidth) / 2 + x, baselines[i], alpha);
+            DrawOutlined(surface, frame, word, left + x, baselines[i], alpha);
         });
     }
     const tagZoBlitInfo copy = {frame, ZO_WINDOW_HANDLE, all, all};
@@ -105,13 +106,12 @@ Window OpenWindow(Display* display) {
         fputs("subtitles: no X server, or none with transparent windows\n", stderr);
         exit(EXIT_FAILURE);
     }
-    const Window root = XDefaultRootWindow(display);
     XSetWindowAttributes wish = {};
-    wish.colormap = XCreateColormap(display, root, info.visual, AllocNone);
+    wish.colormap = XCreateColormap(display, XDefaultRootWindow(display), info.visual, AllocNone);
     wish.event_mask = KeyPressMask;
     const Window window =
-        XCreateWindow(display, root, 0, 0, width, height, 0, info.depth, InputOutput, info.visual,
-                      CWColormap | CWBorderPixel | CWEventMask, &wish);
+        XCreateWindow(display, XDefaultRootWindow(display), 0, 0, width, height, 0, info.depth,
+                      InputOutput, info.visual, CWColormap | CWBorderPixel | CWEventMask, &wish);
     XMapWindow(display, window);
     XSync(display, False); // EGL talks to the server on a connection of its own
     return window;
