@@ -92,7 +92,7 @@ int main(int argc, char* argv[]) {
         return EXIT_FAILURE;
     }
     ZoGLDrawSurface surface;
-    Window window = OpenWindow(display, surface);
+    const Window window = OpenWindow(display, surface);
     unsigned int buffer = ZO_NO_HANDLE;
     Check("buffer", surface.ZoCreateGLFBO(&buffer, card.width, card.height, ZO_FORMAT_RGBA8888));
     Paint(surface, buffer);
@@ -109,7 +109,7 @@ int main(int argc, char* argv[]) {
     XDestroyWindow(display, window);
 
     // The handle is as good as before, and names a transparent buffer.
-    window = OpenWindow(display, surface);
+    OpenWindow(display, surface);
     Fill(surface, ZO_WINDOW_HANDLE, {0, 0, width, height}, {17, 23, 48, 255});
     Fill(surface, ZO_WINDOW_HANDLE, {leftCard - 2, cardTop - 2, card.width + 4, card.height + 4},
          {112, 122, 164, 255}); // a rim, to see the black of the cleared buffer by

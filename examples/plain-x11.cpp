@@ -79,6 +79,29 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame) {
     Check("presenting", surface.ZoDisplayFBO(frame, &all, &all));
 }
 
+struct News {
+    bool isResized = false;
+    bool isClosed = false;
+};
+
+// Waits for an event and takes all that have come: while a user drags an edge of the window, sizes
+// come faster than frames can be drawn. Any event is a reason to draw, Expose above all.
+News WaitForNews(Display* display, const ZoGLDrawSurface& surface, Atom closing) {
+    News news;
+    do {
+        XEvent event;
+        XNextEvent(display, &event);
+        if (event.type == ConfigureNotify) { // a move, or a new size
+            const XConfigureEvent& now = event.xconfigure;
+            news.isResized = static_cast<unsigned>(now.width) != surface.ZoGetWindowWidth() ||
+                             static_cast<unsigned>(now.height) != surface.ZoGetWindowHeight();
+        } else if (event.type == ClientMessage) {
+            news.isClosed = static_cast<Atom>(event.xclient.data.l[0]) == closing;
+        }
+    } while (XPending(display) > 0);
+    return news;
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -92,8 +115,7 @@ int main(int argc, char* argv[]) {
     const Window window =
         XCreateSimpleWindow(display, XDefaultRootWindow(display), 0, 0, 480, 270, 0, 0, 0);
     XStoreName(display, window, "plain-x11");
-    // ExposureMask tells when to draw, StructureNotifyMask when the size changes.
-    XSelectInput(display, window, ExposureMask | StructureNotifyMask);
+    XSelectInput(display, window, ExposureMask | StructureNotifyMask); // when to draw; new sizes
     // Without this, the window manager would end the program when the user closes the window.
     Atom closing = XInternAtom(display, "WM_DELETE_WINDOW", False);
     XSetWMProtocols(display, window, &closing, 1);
@@ -104,42 +126,21 @@ int main(int argc, char* argv[]) {
     unsigned int frame = ZO_NO_HANDLE;
     FollowSize(surface, window, &frame);
     Check("font", surface.ZoLoadFont(fontFile, textSize));
-
-    bool isOpen = true;
-    bool isFollowed = false; // whether the size has changed once
-    while (isOpen) {
-        // All events that have come, then one frame: while a user drags an edge of the window,
-        // sizes come faster than frames can be drawn.
-        bool isExposed = false;
-        bool isNewSize = false;
-        do {
-            XEvent event;
-            XNextEvent(display, &event);
-            if (event.type == Expose) {
-                isExposed = true;
-            } else if (event.type == ConfigureNotify) { // a move, or a new size
-                const XConfigureEvent& now = event.xconfigure;
-                isNewSize = static_cast<unsigned>(now.width) != surface.ZoGetWindowWidth() ||
-                            static_cast<unsigned>(now.height) != surface.ZoGetWindowHeight();
-            } else if (event.type == ClientMessage) {
-                isOpen = static_cast<Atom>(event.xclient.data.l[0]) != closing;
-            }
-        } while (XPending(display) > 0);
-        if (isNewSize) {
+    for (News news; !news.isClosed;) {
+        news = WaitForNews(display, surface, closing);
+        if (news.isResized) {
             FollowSize(surface, window, &frame);
-            isFollowed = true;
         }
-        if (isExposed || isNewSize) {
-            Draw(surface, frame);
-            if (out != nullptr && isFollowed) {
-                isOpen = !SavePicture(out, surface.ZoGetWindowWidth(), surface.ZoGetWindowHeight());
-                Check("picture", isOpen ? ZO_FAILURE : ZO_SUCCESS);
-            }
-            Check("refresh", surface.ZoRefreshOnSrceen());
-        }
-        if (out != nullptr && !isFollowed) {
+        Draw(surface, frame);
+        if (out != nullptr && news.isResized) {
+            const bool isSaved =
+                SavePicture(out, surface.ZoGetWindowWidth(), surface.ZoGetWindowHeight());
+            Check("picture", isSaved ? ZO_SUCCESS : ZO_FAILURE);
+            news.isClosed = true;
+        } else if (out != nullptr) {
             XResizeWindow(display, window, 640, 360); // what the user does otherwise
         }
+        Check("refresh", surface.ZoRefreshOnSrceen());
     }
     surface.ZoDestoryGLWindowSurface(); // before the window goes
     XCloseDisplay(display);             // takes the window along
