@@ -131,9 +131,8 @@ int main(int argc, char* argv[]) {
     unsigned int frame = ZO_NO_HANDLE;
     Check("buffer", surface.ZoCreateGLFBO(&frame, width, height, ZO_FORMAT_RGBA8888));
     if (out != nullptr) {
-        const char* strength = getenv("SUBTITLES_STRENGTH");
-        Draw(surface, frame,
-             strength == nullptr ? 100 : static_cast<unsigned>(strtoul(strength, nullptr, 10)));
+        const char* wish = getenv("SUBTITLES_STRENGTH");
+        Draw(surface, frame, wish == nullptr ? 100U : unsigned(strtoul(wish, nullptr, 10)));
         Check("picture", SaveOverlay(out, width, height) ? ZO_SUCCESS : ZO_FAILURE);
     }
     const auto start = std::chrono::steady_clock::now();
