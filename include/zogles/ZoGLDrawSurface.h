@@ -222,8 +222,9 @@ public:
     /// Creates an off-screen buffer, transparent black all over. There can be 15 of them. The
     /// surface owns it; it lives until `ZoDestoryGLFBO`, beyond the loss of the window.
     /// @param handle receives the new buffer's handle; untouched on failure
-    /// @param width,height pixels; a size that the driver cannot make is logged, and nothing drawn
-    ///     into such a buffer leaves a mark
+    /// @param width pixels
+    /// @param height pixels; a size that the driver cannot make is logged, and nothing drawn into
+    ///     such a buffer leaves a mark
     /// @param format ZO_FORMAT_RGBA8888; any other value is logged and taken as that
     /// @return ZO_SUCCESS, ZO_NO_FREE_FBO, ZO_INVALID_PARAM for a null pointer, or ZO_FAILURE when
     ///     no window is bound
@@ -298,7 +299,8 @@ public:
     /// of its units' advances, with 30 for each unit that the font cannot show (a space, a line
     /// feed). The height is always 50.
     /// @param info the text; only `text` and `length` count
-    /// @param width,height receive the size; untouched on failure
+    /// @param width receives the width; untouched on failure
+    /// @param height receives the height; untouched on failure
     /// @pre the surface is bound if no text operation came before
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, a font code (30 to 32),
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE

@@ -1,0 +1,40 @@
+# What is installed, in three components: runtime, development and docs. Clients find it with
+# find_package(zogles 1) or pkg-config; both work wherever the installed tree is moved.
+include(CMakePackageConfigHelpers)
+
+set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/zogles")
+get_target_property(ZOGLES_LIBRARY_TYPE zogles TYPE)
+
+install(TARGETS zogles EXPORT zogles-targets
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    COMPONENT runtime NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(DIRECTORY include/zogles DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT docs)
+
+# For CMake
+install(EXPORT zogles-targets NAMESPACE zogles:: DESTINATION "${package_folder}"
+  COMPONENT development)
+configure_package_config_file(cmake/zogles-config.cmake.in zogles-config.cmake
+  INSTALL_DESTINATION "${package_folder}")
+write_basic_package_version_file(zogles-config-version.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+  "${CMAKE_CURRENT_BINARY_DIR}/zogles-config.cmake"
+  "${CMAKE_CURRENT_BINARY_DIR}/zogles-config-version.cmake"
+  DESTINATION "${package_folder}" COMPONENT development)
+
+# For pkg-config: every folder is given from where the .pc file lies.
+set(pc_folder "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig")
+foreach(folder PREFIX FULL_LIBDIR FULL_INCLUDEDIR)
+  file(RELATIVE_PATH way "${pc_folder}" "${CMAKE_INSTALL_${folder}}")
+  string(REGEX REPLACE "/$" "" ZOGLES_PC_${folder} "${way}")
+endforeach()
+# A shared library names what it needs itself. A static one does not, so clients link that too, with
+# pkg-config's --static or without.
+if(ZOGLES_LIBRARY_TYPE STREQUAL STATIC_LIBRARY)
+  set(ZOGLES_PC_REQUIRES "egl glesv2 freetype2")
+  set(ZOGLES_PC_DEFINITIONS " -DZOGLES_STATIC")
+endif()
+configure_file(cmake/zogles.pc.in zogles.pc @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/zogles.pc"
+  DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)

@@ -1,0 +1,79 @@
+// A program of a user of the library: draws into a buffer, shows it, and asks the X server what the
+// window shows. Ends with 0 only if that is right.
+#include <zogles/ZoGLDrawSurface.h>
+
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <chrono>
+#include <cstdio>
+#include <thread>
+
+namespace {
+
+constexpr unsigned int width = 160;
+constexpr unsigned int height = 90;
+constexpr unsigned long navy = 0x14283c;
+constexpr unsigned long white = 0xffffff;
+
+bool Draw(ZoGLDrawSurface& surface, Window window, const char* font) {
+    const auto native = reinterpret_cast<ANativeWindow*>(window);
+    const tagZoRectInfo all = {0, 0, width, height};
+    const tagZoRectInfo pen = {20, 70, 0, 0};
+    const tagZoColorRGBA background = {0x14, 0x28, 0x3c, 255};
+    tagZoTextInfo text = {};
+    text.text = u"HIM";
+    text.length = 3;
+    text.color = {255, 255, 255, 255};
+    text.fontSize = 40;
+    unsigned int buffer = ZO_NO_HANDLE;
+    return surface.ZoCreateGLWindowSurface(native) == ZO_SUCCESS &&
+           surface.ZoCreateGLFBO(&buffer, width, height, ZO_FORMAT_RGBA8888) == ZO_SUCCESS &&
+           surface.ZoDrawRect(buffer, &all, &background) == ZO_SUCCESS &&
+           surface.ZoLoadFont(font, 40) == ZO_SUCCESS &&
+           surface.ZoDrawText(buffer, &text, &pen) == ZO_SUCCESS &&
+           surface.ZoDisplayFBO(buffer, &all, &all) == ZO_SUCCESS &&
+           surface.ZoRefreshOnSrceen() == ZO_SUCCESS;
+}
+
+// The background in all corners, and strokes of the text somewhere in between.
+bool IsShown(Display* display, Window window) {
+    XImage* image = XGetImage(display, window, 0, 0, width, height, AllPlanes, ZPixmap);
+    int backgrounds = 0;
+    int strokes = 0;
+    for (unsigned int pixel = 0; pixel < width * height; ++pixel) {
+        const unsigned long color =
+            XGetPixel(image, static_cast<int>(pixel % width), static_cast<int>(pixel / width)) &
+            white;
+        backgrounds += color == navy ? 1 : 0;
+        strokes += color == white ? 1 : 0;
+    }
+    XDestroyImage(image);
+    return backgrounds > 10000 && strokes > 100;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    const char* font = argc > 1 ? argv[1] : "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
+    Display* display = XOpenDisplay(nullptr);
+    if (display == nullptr) {
+        fprintf(stderr, "no X server\n");
+        return 1;
+    }
+    const Window window =
+        XCreateSimpleWindow(display, XDefaultRootWindow(display), 0, 0, width, height, 0, 0, 0);
+    XMapWindow(display, window);
+    XSync(display, False);
+    ZoGLDrawSurface surface;
+    bool isShown = false;
+    if (Draw(surface, window, font)) {
+        for (int attempt = 0; attempt < 50 && !isShown; ++attempt) {
+            isShown = IsShown(display, window);
+            std::this_thread::sleep_for(std::chrono::milliseconds(isShown ? 0 : 100));
+        }
+    }
+    surface.ZoDestoryGLWindowSurface(); // before the window goes
+    XCloseDisplay(display);
+    fprintf(stderr, isShown ? "drawn as it should be\n" : "drawn wrongly\n");
+    return isShown ? 0 : 1;
+}
