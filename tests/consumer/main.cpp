@@ -16,7 +16,7 @@ constexpr unsigned long navy = 0x14283c;
 constexpr unsigned long white = 0xffffff;
 
 bool Draw(ZoGLDrawSurface& surface, Window window, const char* font) {
-    const auto native = reinterpret_cast<ANativeWindow*>(window);
+    auto* const native = reinterpret_cast<ANativeWindow*>(window);
     const tagZoRectInfo all = {0, 0, width, height};
     const tagZoRectInfo pen = {20, 70, 0, 0};
     const tagZoColorRGBA background = {0x14, 0x28, 0x3c, 255};
