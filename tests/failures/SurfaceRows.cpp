@@ -107,6 +107,12 @@ Rows CreateBufferRows() {
             &C::Bound),
         Row("create_buffer_unknown_format", &C::Bound, Set(&Request::format, 8), create, ZO_SUCCESS,
             {SurfaceLine("Color format is invalid 8\n"), complete}, created, expectRgba),
+        Row("create_buffer_no_memory_for_pool",
+            [](C& c) {
+                c.Bound();
+                c.surface->fboManager.reset();
+            },
+            RefuseAllocation(1), create, ZO_FAILURE, {SurfaceLine("out of memory\n")}),
         Row("create_buffer_pool_full", FillPool, {}, create, ZO_NO_FREE_FBO,
             {Line("FBOManager", full), SurfaceLine("Create FBO fail 15\n")}, "", expectNoCall,
             [](C& c) {

@@ -53,7 +53,7 @@ TEST(LogRepeatsTest, KeepsATerminalReadable) {
         }
         usleep(1100000);
         __android_log_print(LogError, "Tag", "again %d", 1);
-        _exit(0);
+        exit(0); // not _exit, which forgets the counts of coverage
     }
     close(client);
     std::string shown;
