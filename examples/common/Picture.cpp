@@ -46,7 +46,9 @@ bool Save(const char* path, unsigned int width, unsigned int height, Picture scr
     const unsigned int top = screenHeight - height - std::min(bottomMargin, screenHeight - height);
     for (unsigned int y = 0; y < height; ++y) {
         const unsigned char* pixel = &window[(height - 1 - y) * rowBytes]; // rows from the bottom
-        unsigned char* channel = &screen.pixels[(size_t{top + y} * screenWidth + left) * channels];
+        // cppcheck-suppress redundantInitialization ; for it, the pixels are never read
+        unsigned char* channel =
+            screen.pixels.data() + (size_t{top + y} * screenWidth + left) * channels;
         for (unsigned int x = 0; x < width; ++x, pixel += 4) {
             for (int i = 0; i < channels; ++i, ++channel) {
                 const int sum = pixel[i] + (*channel * (255 - pixel[3]) + 127) / 255;

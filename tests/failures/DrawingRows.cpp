@@ -188,7 +188,7 @@ Rows ProgramRows() {
             InitFails(rect, ZO_PROGRAM_FAILED, {shaderLine("allocate memory fail\n")})),
         Row("rect_locations_missing", &C::Bound, noLocation, InitOne<ZO_COMPONENT_RECT>, ZO_SUCCESS,
             {shaderLine("Could not bind attribute vPosition\n"), noColor}, "+rect ", {},
-            [](C& c) { c.surface->osdRect.reset(); }),
+            [](const C& c) { c.surface->osdRect.reset(); }),
         Row("text_locations_missing", &C::WithFont, noLocation, InitOne<ZO_COMPONENT_TEXT>,
             ZO_SUCCESS,
             {shaderLine("Could not bind attribute coord\n"),
@@ -209,7 +209,7 @@ Rows EmptyTargetRows(const std::string& name) {
         EXPECT_EQ(c.DrawText(), ZO_SUCCESS);
         c.surface->fboManager->slots[0].*Side = 0;
     };
-    const Step mend = [](C& c) { c.surface->fboManager->slots[0].*Side = 160; };
+    const Step mend = [](const C& c) { c.surface->fboManager->slots[0].*Side = 160; };
     const Step expectNoExtent = [](C&) {
         const std::vector<unsigned char>& bytes = harness::Current().bufferData;
         for (size_t i = 0; i < size_t{6} * 16; i += 16) { // x and y of six vertices

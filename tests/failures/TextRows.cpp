@@ -120,9 +120,10 @@ Rows FirstUseRows() {
         {"init", &C::InitAll}, {"measure", &C::Measure}, {"text", &C::DrawText}};
     Rows rows;
     for (const auto& [name, run] : entries) {
+        const std::string prefix = name + "_default_font_";
         for (const auto& [condition, fault, code, line] : atlasFaults) {
             const std::string number = std::to_string(code) + "\n";
-            rows.emplace_back(name + "_default_font_" + condition, &C::Bound, fault, run, code,
+            rows.emplace_back(prefix + condition, &C::Bound, fault, run, code,
                               Log{Standard(line),
                                   SurfaceLine("Load standard font lib fail " + number),
                                   SurfaceLine("Load font fail " + number)},

@@ -228,7 +228,8 @@ TEST_F(TextDrawingGLTest, NeverReadsPastTheLength) {
     munmap(pages, 2 * page);
 
     const int draws = harness::CountOf("glDrawArrays");
-    for (const std::u16string_view none : {std::u16string_view(), {u"unread", 0}}) {
+    for (const std::u16string_view none :
+         {std::u16string_view(), std::u16string_view(u"unread").substr(0, 0)}) {
         EXPECT_EQ(Draw(none), ZO_SUCCESS);
         EXPECT_EQ(harness::TakeLog(), Log());
     }
@@ -246,7 +247,7 @@ TEST_F(TextDrawingGLTest, TakesMemoryForLongTextsOnlyAndStandsItsRefusal) {
         << "a copy that grew with the font would cost more than the text";
     EXPECT_EQ(harness::CountAllocations([&] { Draw(tooLong); }), 1);
     Draw(u"iii" + std::u16string(62, u' '));
-    EXPECT_TRUE(Vertices().size() == 65 * 6 && IsZeroFrom(18));
+    EXPECT_TRUE(Vertices().size() == size_t{65} * 6 && IsZeroFrom(18));
     harness::TakeLog();
     Fill({});
     harness::RefuseAllocation(1);
