@@ -68,6 +68,7 @@ Report::Report(const std::string& folder)
     if (!file) {
         throw std::runtime_error("cannot write " + folder + "/samples.tsv");
     }
+    samples.reserve(size_t{1} << 16); // its own growth is not to be taken for the library's
     file << "stage\tseconds\tframes\tlosses\ttexts\tfonts\tresident_kib\theld_kib\theap_kib\t"
             "address_space_kib\tdescriptors\tgl_objects\n";
 }

@@ -152,7 +152,8 @@ struct TagFboInfo {
 /// the whole process. Two surfaces bound at the same time in one process disturb each other.
 ///
 /// No operation throws. Where memory is refused, the operation logs a line and returns ZO_FAILURE.
-/// An operation that fails draws nothing, and leaves the buffers as they were.
+/// An operation that fails draws nothing. What the driver cannot find memory for, it does not tell:
+/// such a bitmap or buffer shows as opaque black.
 ///
 /// A frame, with the result codes left out:
 /// @code
@@ -212,11 +213,11 @@ public:
 
     /// Tells the window's width as of the last binding; a window that is resized later has to be
     /// bound again.
-    /// @return pixels: 1920 before the first binding, then the last width that EGL told
+    /// @return pixels: 1920 before the first binding, then what EGL told when the window was bound
     unsigned int ZoGetWindowWidth() const;
 
     /// Tells the window's height as of the last binding.
-    /// @return pixels: 1080 before the first binding, then the last height that EGL told
+    /// @return pixels: 1080 before the first binding, then what EGL told when the window was bound
     unsigned int ZoGetWindowHeight() const;
 
     /// Creates an off-screen buffer, transparent black all over. There can be 15 of them. The

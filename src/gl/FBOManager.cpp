@@ -41,6 +41,10 @@ GLuint CreateTexture(int width, int height, int format) {
 GLuint CreateFramebuffer(GLuint texture) {
     GLuint framebuffer = 0;
     glGenFramebuffers(1, &framebuffer);
+    if (framebuffer == 0) { // the window's, whose status says nothing of this buffer
+        __android_log_print(LogError, tag, "%s", StatusMessage(0));
+        return 0;
+    }
     glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);
     glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, texture, 0);
     __android_log_print(LogError, tag, "%s",
@@ -105,6 +109,12 @@ int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int for
         *handle = NewHandle(free);
     }
     slot.handle = *handle;
+    if (slot.framebuffer == 0) {
+        // Drawing would go to the window: a target without extent keeps it from leaving a mark.
+        slot.width = 0;
+        slot.height = 0;
+        return ZO_SUCCESS;
+    }
     slot.width = width;
     slot.height = height;
     ClearFBOTex(&slot, &transparentBlack);

@@ -48,7 +48,7 @@ TEST(LogRepeatsTest, KeepsATerminalReadable) {
     const pid_t child = fork();
     if (child == 0) {
         dup2(client, STDERR_FILENO);
-        for (int i = 0; i < 1000; ++i) {
+        for (int i = 0; i < 100; ++i) {
             __android_log_print(LogError, "Tag", "again %d", i % 2);
         }
         usleep(1100000);
@@ -64,5 +64,5 @@ TEST(LogRepeatsTest, KeepsATerminalReadable) {
     waitpid(child, nullptr, 0);
     close(terminal);
     EXPECT_EQ(shown, "E/Tag: again 0\r\nE/Tag: again 1\r\n"
-                     "E/Tag: again 1 (and 499 times more)\r\n");
+                     "E/Tag: again 1 (and 49 times more)\r\n");
 }

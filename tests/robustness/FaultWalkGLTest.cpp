@@ -33,6 +33,7 @@ constexpr char incomplete[] = "Unable to set up render Target: ";
 constexpr char absent[] = "Char 6";
 constexpr char noSize[] = "set pixel size fail";
 constexpr char leftOut[] = "characters are left out of the texture\n";
+constexpr char unknownStatus[] = "Framebuffer incomplete: Unknown error.\n";
 constexpr char noMemory[] = "out of memory\n";
 constexpr char emptyAtlas[] = "Calculate texture width 0d, height 0d\n";
 
@@ -62,7 +63,8 @@ const std::vector<Fault> faults = {
     {"glGetAttribLocation", "", {{ZO_SUCCESS, "Could not bind attribute "}}},
     {"glGetUniformLocation", "", {{ZO_SUCCESS, "Could not bind uniform "}}},
     {"glGenBuffers", "", {{ZO_SUCCESS, noLine}}},
-    {"glGenFramebuffers", "", {{ZO_SUCCESS, noLine}}},
+    {"glGenFramebuffers", "", {{ZO_SUCCESS, unknownStatus}}},
+    {"glCheckFramebufferStatus", "", {{ZO_SUCCESS, unknownStatus}}},
     {"glGenTextures", "create", {{ZO_SUCCESS, incomplete}}},
     {"glGenTextures", "bind again", {{ZO_SUCCESS, incomplete}}},
     {"glGenTextures", "bitmap", {{ZO_SUCCESS, noLine}}},
@@ -73,6 +75,9 @@ const std::vector<Fault> faults = {
     {"glTexImage2D", "bind again", {{ZO_SUCCESS, incomplete}}},
     {"glTexImage2D", "", {{ZO_SUCCESS, noLine}}},
     {"glBufferData", "", {{ZO_SUCCESS, noLine}}},
+    {"glCopyTexImage2D", "", {{ZO_SUCCESS, noLine}}},
+    {"glGetIntegerv", "", {{ZO_SUCCESS, noLine}}}, // a limit that is not told is none
+    {"glGetString", "", {{ZO_SUCCESS, "GL "}}},
 
     {"FT_Init_FreeType", "", {{ZO_FREETYPE_FAILED, "Failed to initialize freetype library"}}},
     {"FT_New_Face", "", {{ZO_FONT_FACE_FAILED, "Error loading font face"}}},
@@ -181,6 +186,10 @@ protected:
         harness::RefuseAllocation(0);
         harness::Current().faults.clear();
         ExpectOutcome(fault, code, reference[faulty].log);
+        ExpectStateAtRest();
+        // A binding that got as far as a surface has to be let go of first.
+        const bool isHalfBound = surface->eglManager && !surface->surfaceCreated;
+        EXPECT_EQ(session[faulty].run(client), isHalfBound ? ZO_FAILURE : ZO_SUCCESS) << "at once";
         for (size_t i = faulty; i < session.size(); ++i) {
             const int next = i == faulty ? code : session[i].run(client);
             const std::vector<int>& codes = session[i].codes;
@@ -191,6 +200,19 @@ protected:
         const std::vector<Trace> again = RunCleanSession(client);
         for (size_t i = 0; i < session.size(); ++i) {
             EXPECT_TRUE(again[i].image.pixels == reference[i].image.pixels) << session[i].name;
+        }
+    }
+
+    // What every operation leaves, whatever became of it.
+    static void ExpectStateAtRest() {
+        if (eglGetCurrentContext() == EGL_NO_CONTEXT) {
+            return;
+        }
+        for (const GLenum binding :
+             {GL_FRAMEBUFFER_BINDING, GL_ARRAY_BUFFER_BINDING, GL_TEXTURE_BINDING_2D, GL_BLEND}) {
+            GLint value = -1;
+            glGetIntegerv(binding, &value);
+            EXPECT_EQ(value, 0) << binding;
         }
     }
 
@@ -220,9 +242,11 @@ const Fault* FindFault(const std::string& call, const char* step) {
     return found == faults.end() ? nullptr : &*found;
 }
 
-// Calls that report a failure; EGL, FreeType and memset_s say so, other GL calls cannot.
+// Calls that can fail: they say so, yield nothing, or need storage.
 bool CanFail(const std::string& call) {
-    constexpr const char* families[] = {"egl", "FT_", "memset_s", "glGen", "glCreate"};
+    constexpr const char* families[] = {"egl",       "FT_",    "memset_s",   "glGen",
+                                        "glCreate",  "glGet",  "glCheck",    "glCopyTex",
+                                        "glCompile", "glLink", "glTexImage", "glBufferData"};
     return call != "FT_Set_Transform" &&
            std::any_of(std::begin(families), std::end(families),
                        [&](const char* family) { return StartsWith(call.c_str(), family); });

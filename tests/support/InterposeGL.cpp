@@ -84,7 +84,7 @@ extern "C" GLenum glGetError() {
 
 extern "C" GLenum glCheckFramebufferStatus(GLenum target) {
     INTERPOSE(glCheckFramebufferStatus, (target));
-    const GLenum status = real(target);
+    const GLenum status = isFailing ? 0 : real(target);
     return static_cast<GLenum>(
         harness::Current().framebufferStatus.value_or(static_cast<int>(status)));
 }

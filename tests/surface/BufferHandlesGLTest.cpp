@@ -92,3 +92,18 @@ TEST_F(BufferHandlesGLTest, ANewPoolByItsFlagReplacesTheOneThereIs) {
     EXPECT_FALSE(IsThere(handle));
     EXPECT_EQ(Table(), "10001:4x3");
 }
+
+TEST_F(BufferHandlesGLTest, ABufferWithoutAFramebufferLeavesTheWindowAlone) {
+    Bind();
+    Fill(ZO_WINDOW_HANDLE);
+    harness::FailCall("glGenFramebuffers");
+    unsigned int handle = 0;
+    EXPECT_EQ(surface->ZoCreateGLFBO(&handle, 4, 3, 9), ZO_SUCCESS);
+    const tagZoRectInfo rect = {0, 0, 4, 3};
+    const tagZoColorRGBA color = {1, 1, 1, 1};
+    EXPECT_EQ(surface->ZoDrawRect(handle, &rect, &color), ZO_SUCCESS);
+    EXPECT_TRUE(Matches(Read(ZO_WINDOW_HANDLE), Filled));
+    Rebind();
+    Fill(handle);
+    EXPECT_TRUE(Matches(Read(handle), Filled));
+}
