@@ -1,13 +1,8 @@
 #include "platform/LogRepeats.h"
 
-#include "platform/Log.h"
-
-#include <cstdlib>
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <string>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -39,30 +34,4 @@ TEST(LogRepeatsTest, ForgetsTheMessageShownLongestAgo) {
     }
     EXPECT_EQ(Judge(repeats, {{1, 40}, {32, 41}, {0, 42}}),
               (Answers{{false, 0}, {false, 0}, {true, 0}}));
-}
-
-TEST(LogRepeatsTest, KeepsATerminalReadable) {
-    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
-    ASSERT_TRUE(grantpt(terminal) == 0 && unlockpt(terminal) == 0);
-    const int client = open(ptsname(terminal), O_RDWR | O_NOCTTY);
-    const pid_t child = fork();
-    if (child == 0) {
-        dup2(client, STDERR_FILENO);
-        for (int i = 0; i < 100; ++i) {
-            __android_log_print(LogError, "Tag", "again %d", i % 2);
-        }
-        usleep(1100000);
-        __android_log_print(LogError, "Tag", "again %d", 1);
-        exit(0); // not _exit, which forgets the counts of coverage
-    }
-    close(client);
-    std::string shown;
-    char buffer[4096];
-    for (ssize_t size = 0; (size = read(terminal, buffer, sizeof(buffer))) > 0;) {
-        shown.append(buffer, static_cast<size_t>(size));
-    }
-    waitpid(child, nullptr, 0);
-    close(terminal);
-    EXPECT_EQ(shown, "E/Tag: again 0\r\nE/Tag: again 1\r\n"
-                     "E/Tag: again 1 (and 49 times more)\r\n");
 }
