@@ -73,7 +73,6 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame) {
     }
     const std::string size = std::to_string(width) + "x" + std::to_string(height);
     DrawCentred(surface, frame, {size.begin(), size.end()}); // plain ASCII needs no conversion
-    DrawCentred(surface, frame, {size.begin(), size.end()}); // plain ASCII needs no conversion
     // Not ZO_WINDOW_HANDLE: its scale stays that of the first size. Presenting uses the new one.
     const tagZoRectInfo all = {0, 0, width, height};
     Check("presenting", surface.ZoDisplayFBO(frame, &all, &all));
@@ -96,7 +95,7 @@ News WaitForNews(Display* display, const ZoGLDrawSurface& surface, Atom closing)
             news.isResized = static_cast<unsigned>(now.width) != surface.ZoGetWindowWidth() ||
                              static_cast<unsigned>(now.height) != surface.ZoGetWindowHeight();
         } else if (event.type == ClientMessage) {
-            news.isClosed = static_cast<Atom>(event.xclient.data.l[0]) == closing;
+            news.isClosed |= static_cast<Atom>(event.xclient.data.l[0]) == closing;
         }
     } while (XPending(display) > 0);
     return news;

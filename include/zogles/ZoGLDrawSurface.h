@@ -99,13 +99,17 @@ struct tagZoColorRGBA {
 
 /// A text to draw or to measure. Zero it before filling it in, so that what is not set is plain:
 /// `tagZoTextInfo text = {};`
+///
+/// Plain text of size 40, the standard size, is as high as `ZoLoadFont` was told, and ready to draw.
+/// Text of any other size, bold or italic, is rendered at every draw, and ends at its first zero
+/// unit. A size of 0 is rendered at 40.
 struct tagZoTextInfo {
-    const char16_t* text;         ///< UTF-16 code units, ended by a zero unit; owned by the client
+    const char16_t* text;         ///< UTF-16 code units, owned by the client; null if empty
     unsigned int length;          ///< how many units to draw or measure; no more are ever read
     tagZoColorRGBA color;         ///< colour of the text
     tagZoColorRGBA reservedColor; ///< not used
     unsigned char reservedByte;   ///< not used
-    unsigned int fontSize;        ///< glyph height in pixels; 40 is the standard size, 0 means 40
+    unsigned int fontSize;        ///< glyph height in pixels; see above for 40 and 0
     unsigned char bold;           ///< nonzero: heavier strokes
     unsigned char reservedStyle;  ///< not used
     unsigned char italic;         ///< nonzero: slanted to the right
@@ -151,7 +155,8 @@ struct TagFboInfo {
 /// Process: all surfaces share EGL's default display, and releasing one terminates that display for
 /// the whole process. Two surfaces bound at the same time in one process disturb each other.
 ///
-/// No operation throws. Where memory is refused, the operation logs a line and returns ZO_FAILURE.
+/// No operation throws. Where memory is refused, the operation logs a line and returns
+/// ZO_FAILURE, or ZO_PROGRAM_FAILED if it was to build a program.
 /// An operation that fails draws nothing. What the driver cannot find memory for, it does not tell:
 /// such a bitmap or buffer shows as opaque black.
 ///
@@ -255,7 +260,7 @@ public:
     /// Copies a region of one buffer into a region of another, scaled linearly when the two differ
     /// in size. Colour and alpha replace what was there. Source and destination may be the same
     /// buffer and may overlap. A source region past the buffer's edges repeats its edge pixels. The
-    /// window can be written to; it holds no image to read from.
+    /// window can be written to; it holds no image to read from, and is opaque black as a source.
     /// @code
     /// const tagZoBlitInfo scroll = {list, list, {0, 40, 300, 360}, {0, 0, 300, 360}};
     /// surface.ZoBlit(&scroll);   // a list of 300 by 400 moves up by a row of 40
@@ -269,7 +274,7 @@ public:
     /// Clears the whole window to transparent black and draws a region of a buffer on it, blended:
     /// a pixel (r, g, b, a) lands as (r*a, g*a, b*a, a*a). The call replaces everything that was
     /// drawn on the window before it in this frame. On failure the window is left as it was.
-    /// @param fbo handle of the buffer
+    /// @param fbo handle of the buffer; the window itself shows as opaque black
     /// @param src region to show, in pixels of the buffer
     /// @param dst where to show it, in pixels of the window; the region is stretched to it
     /// @pre the surface is bound
@@ -293,16 +298,17 @@ public:
     ///     italic) and for measuring; 0 means 40
     /// @pre the surface is bound
     /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null path, with nothing changed; a font code (30 to
-    ///     32) or ZO_FAILURE: the font loaded before is gone then, so load one again
+    ///     32) or ZO_FAILURE: the font loaded before is gone then. Until another is loaded, plain text
+    ///     draws nothing and measures 30 a unit, with ZO_SUCCESS, and styled text fails
     int ZoLoadFont(const char* path, unsigned int size);
 
-    /// Measures a text in pixels at the standard size, whatever size or style it asks for: the sum
+    /// Measures a text in pixels at the size given to `ZoLoadFont`, whatever it asks for: the sum
     /// of its units' advances, with 30 for each unit that the font cannot show (a space, a line
     /// feed). The height is always 50.
     /// @param info the text; only `text` and `length` count
     /// @param width receives the width; untouched on failure
     /// @param height receives the height; untouched on failure
-    /// @pre the surface is bound if no text operation came before
+    /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, a font code (30 to 32),
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
     int ZoGetTextSize(const tagZoTextInfo* info, unsigned int* width, unsigned int* height);
