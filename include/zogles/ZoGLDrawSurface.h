@@ -9,10 +9,17 @@
 
 #include <memory>
 
-/// Marks what the shared library exports; nothing where ZOGLES_STATIC is defined.
+/// The version's first number: programs built for another one do not run with this library.
+#define ZOGLES_VERSION_MAJOR 1
+/// The version's second number: higher ones have more, and all that was there.
+#define ZOGLES_VERSION_MINOR 0
+/// The version's third number: higher ones differ in what was mended.
+#define ZOGLES_VERSION_PATCH 0
+
 #if defined(ZOGLES_STATIC)
 #define ZOGLES_API
 #else
+/// Marks what the shared library exports; nothing where ZOGLES_STATIC is defined.
 #define ZOGLES_API __attribute__((visibility("default")))
 #endif
 
