@@ -208,8 +208,9 @@ protected:
         if (eglGetCurrentContext() == EGL_NO_CONTEXT) {
             return;
         }
-        for (const GLenum binding :
-             {GL_FRAMEBUFFER_BINDING, GL_ARRAY_BUFFER_BINDING, GL_TEXTURE_BINDING_2D, GL_BLEND}) {
+        constexpr GLenum state[] = {GL_FRAMEBUFFER_BINDING, GL_ARRAY_BUFFER_BINDING,
+                                    GL_TEXTURE_BINDING_2D, GL_BLEND};
+        for (const GLenum binding : state) {
             GLint value = -1;
             glGetIntegerv(binding, &value);
             EXPECT_EQ(value, 0) << binding;
