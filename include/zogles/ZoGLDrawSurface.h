@@ -135,7 +135,7 @@ struct tagZoBitmapInfo {
 
 /// A copy from one buffer into another, or within one buffer.
 struct tagZoBlitInfo {
-    unsigned int srcHandle; ///< buffer to read from; the window cannot be read
+    unsigned int srcHandle; ///< buffer to read from; the window holds no image
     unsigned int dstHandle; ///< buffer to write to, or ZO_WINDOW_HANDLE
     tagZoRectInfo srcRect;  ///< region to read, in pixels of the source buffer
     tagZoRectInfo dstRect;  ///< region to write, in pixels of the destination buffer
