@@ -1,0 +1,20 @@
+# What the library stands on in a browser, under the names that it has elsewhere: EGL and OpenGL ES
+# by Emscripten, over WebGL, and FreeType, built here from the source that scripts/web fetches.
+
+set(ZOGLES_FREETYPE_SOURCE "" CACHE PATH "FreeType's unpacked source")
+
+# Memory may be refused, and the library answers that; so it is refused here as anywhere else.
+add_compile_options(-fexceptions)
+add_link_options(-fexceptions)
+
+add_library(PkgConfig::ZOGLES_EGL INTERFACE IMPORTED)
+# WebGL takes no indices from the client's memory. This has Emscripten put them into a buffer.
+add_library(PkgConfig::ZOGLES_GLES INTERFACE IMPORTED)
+target_link_options(PkgConfig::ZOGLES_GLES INTERFACE -sFULL_ES2=1)
+
+enable_language(C)
+foreach(dependency ZLIB BZIP2 PNG HARFBUZZ BROTLI)
+  set(FT_DISABLE_${dependency} ON CACHE BOOL "" FORCE)
+endforeach()
+add_subdirectory(${ZOGLES_FREETYPE_SOURCE} ${CMAKE_BINARY_DIR}/freetype EXCLUDE_FROM_ALL)
+add_library(Freetype::Freetype ALIAS freetype)

@@ -1,0 +1,37 @@
+// Prints a script with what the page says of result codes and operations, as the library's own header
+// and guide have it:
+//   node describe.mjs ZoGLDrawSurface.h result-codes.md >library.js
+import { readFileSync } from 'node:fs';
+
+const [header, guide] = process.argv.slice(2).map((path) => readFileSync(path, 'utf8'));
+
+/** The prose of a comment: no markers, no line breaks within a paragraph. */
+function toProse(comment) {
+  return comment.replace(/^\s*\/\/\/<? ?/gm, '').replace(/\s*\n(?!\n)/g, ' ').replace(/`/g, '').trim();
+}
+
+function describeResults() {
+  const results = {};
+  for (const [, name, code, meaning] of header.matchAll(/^ +(ZO_\w+) = (\d+), +\/\/\/< (.*)$/gm)) {
+    results[code] = { name, meaning: toProse(meaning), advice: '' };
+  }
+  for (const [, code, , advice] of guide.matchAll(/^\| (\d+) \| `ZO_\w+` \| (.*) \| (.*) \|$/gm)) {
+    results[code].advice = toProse(advice).replace(/\[([^\]]*)\]\([^)]*\)/g, '$1');
+  }
+  return results;
+}
+
+/** The first paragraph of what the header says of each operation. */
+function describeOperations() {
+  const operations = {};
+  const declaration = /((?:^ +\/\/\/.*\n)+) +(?:unsigned )?(?:int|void) (Zo\w+|Init)\(/gm;
+  for (const [, comment, name] of header.matchAll(declaration)) {
+    const [first] = comment.split(/^ +\/\/\/ ?(?:$|@)/m);
+    operations[name] = toProse(first);
+  }
+  return operations;
+}
+
+console.log(`// Made from the library's header and guide.
+export const results = ${JSON.stringify(describeResults(), null, 2)};
+export const operationNotes = ${JSON.stringify(describeOperations(), null, 2)};`);

@@ -1,0 +1,37 @@
+// Making elements.
+
+/**
+ * @template {keyof HTMLElementTagNameMap} Name
+ * @param {Name} name
+ * @param {Record<string, any>} [properties] of the element; what has a dash becomes an attribute
+ * @param {...(Node | string)} children
+ * @returns {HTMLElementTagNameMap[Name]}
+ */
+export function make(name, properties = {}, ...children) {
+  const element = document.createElement(name);
+  for (const [key, value] of Object.entries(properties)) {
+    if (key.includes('-') || key === 'role' || key === 'for' || key === 'class') {
+      element.setAttribute(key, value);
+    } else {
+      Object.assign(element, { [key]: value });
+    }
+  }
+  element.append(...children);
+  return element;
+}
+
+/**
+ * The page's element of that id.
+ *
+ * @template {HTMLElement} Type
+ * @param {string} id
+ * @param {new () => Type} type
+ * @returns {Type}
+ */
+export function find(id, type) {
+  const element = document.getElementById(id);
+  if (!(element instanceof type)) {
+    throw new Error(`the page has no ${type.name} "${id}"`);
+  }
+  return element;
+}

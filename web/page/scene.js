@@ -1,0 +1,125 @@
+// The demo's scene, playing on the engine's surface.
+
+/** @typedef {import('./engine.js').Engine} Engine */
+
+/** The scene's buffers, in the order in which it creates them. */
+const bufferNames = [
+  'sky, as cells',
+  'list',
+  'next row',
+  'highlight',
+  'chosen row',
+  'scrollbar',
+  'frosted picture',
+  'all that rests',
+  'frame',
+];
+
+const shownMinute = 32; // 21:47 by the scene's clock
+const lastMinute = 74;
+const minutesPerFrame = 1 / 60; // a minute in a second
+
+export class Player {
+  /**
+   * The names of the scene's buffers, by handle.
+   *
+   * @type {Map<number, string>}
+   */
+  names = new Map();
+
+  isPlaying = false;
+
+  /** @type {import('./libzogles.mjs').DemoScene | null} */
+  #scene = null;
+
+  #minute = shownMinute;
+
+  /**
+   * @param {Engine} engine
+   * @param {string} fontPath what the scene is written in
+   */
+  constructor(engine, fontPath) {
+    this.engine = engine;
+    this.fontPath = fontPath;
+    engine.addEventListener('binding', () => this.pauseUnbound());
+  }
+
+  /** False once the scene cannot be drawn any more, as when a buffer of its was destroyed. */
+  get isGood() {
+    return this.#scene?.IsGood() ?? false;
+  }
+
+  get isReady() {
+    return this.isGood && this.engine.isBound;
+  }
+
+  /**
+   * Creates the scene anew, and shows its first frame.
+   *
+   * @returns {boolean} whether that went well
+   */
+  restart() {
+    this.#scene?.delete();
+    for (const handle of this.names.keys()) {
+      if (this.engine.targets.has(handle)) {
+        this.engine.surface.ZoDestoryGLFBO(handle);
+      }
+    }
+    this.names.clear();
+    this.engine.updateTargets();
+    const before = new Set(this.engine.targets.keys());
+    this.#scene = new this.engine.library.DemoScene(this.engine.surface);
+    this.#scene.CreateBuffers();
+    this.engine.updateTargets();
+    const own = [...this.engine.targets.keys()].filter((handle) => !before.has(handle));
+    own.forEach((handle, i) => this.names.set(handle, bufferNames[i]));
+    return this.repaint();
+  }
+
+  /** Fills the scene's buffers, as after a loss, and shows its first frame. */
+  repaint() {
+    if (!this.isGood) {
+      return false;
+    }
+    this.#scene?.Paint(this.fontPath);
+    this.#minute = shownMinute;
+    this.drawFrame();
+    return this.isGood;
+  }
+
+  play() {
+    if (this.isPlaying || !this.isReady) {
+      return;
+    }
+    this.isPlaying = true;
+    const step = () => {
+      if (!this.isPlaying) {
+        return;
+      }
+      this.#scene?.Scroll();
+      this.#minute = this.#minute > lastMinute ? 0 : this.#minute + minutesPerFrame;
+      this.drawFrame();
+      this.isPlaying = this.isPlaying && this.isReady;
+      requestAnimationFrame(step);
+    };
+    requestAnimationFrame(step);
+  }
+
+  pause() {
+    this.isPlaying = false;
+  }
+
+  pauseUnbound() {
+    this.isPlaying = this.isPlaying && this.engine.isBound;
+  }
+
+  drawFrame() {
+    const { engine } = this;
+    this.#scene?.DrawFrame(this.#minute);
+    const [frame] = [...this.names.keys()].slice(-1);
+    const { width, height } = engine.canvas;
+    const all = { x: 0, y: 0, width, height };
+    engine.presentation = { handle: frame, source: all, destination: all };
+    engine.tellDrawn();
+  }
+}
