@@ -9,9 +9,10 @@ mergeInto(LibraryManager.library, {
   $Contexts__postset: 'Contexts.install();',
   $Contexts: {
     // Stands where no context is current: creates nothing, knows nothing, does nothing.
-    none: new Proxy({}, { get: function() { return function() { return null; }; } }),
+    none: null,
 
     install: function() {
+      Contexts.none = new Proxy({}, { get: function() { return function() { return null; }; } });
       var makeCurrent = GL.makeContextCurrent;
       GL.makeContextCurrent = function(handle) {
         var isDone = makeCurrent(handle);

@@ -3,7 +3,7 @@
 import { find, make } from './dom.js';
 import { copyToCanvas, formatHandle, isReadable, mostBuffers, windowHandle } from './targets.js';
 
-const pauseBetweenMiniatures = 150; // milliseconds; one is drawn at a time
+const pauseBetweenMiniatures = 100; // milliseconds; one is drawn at a time
 const mostWidth = 112;
 const mostHeight = 63;
 
@@ -37,29 +37,37 @@ export class BuffersTable extends EventTarget {
     this.count.textContent = `${handles.length} of ${mostBuffers} ${state}`;
     this.#miniatures.clear();
     this.body.replaceChildren(...handles.map((handle) => this.#makeRow(handle)));
-    this.drawAll();
   }
 
   /** @param {number} handle */
   #makeRow(handle) {
-    const { width, height } = this.engine.targets.get(handle) ?? { width: 0, height: 0 };
+    const target = this.engine.targets.get(handle);
     const name = formatHandle(handle);
-    const scale = Math.min(mostWidth / width, mostHeight / height, 1);
-    const miniature = make('canvas', {
-      role: 'img',
-      'aria-label': `What ${name} holds`,
-      width: Math.max(1, Math.round(width * scale)) || 1,
-      height: Math.max(1, Math.round(height * scale)) || 1,
-    });
-    this.#miniatures.set(handle, miniature);
+    const holds = target && isReadable(target) ? this.#makeMiniature(handle, target) : '—';
     return make(
       'tr',
       {},
       make('th', { scope: 'row' }, make('code', {}, name), make('small', {}, this.nameOf(handle))),
-      make('td', {}, `${width} × ${height}`),
-      make('td', { class: 'miniature' }, miniature),
+      make('td', {}, `${target?.width} × ${target?.height}`),
+      make('td', { class: 'miniature' }, holds),
       make('td', {}, this.#makeButton('view', 'View', handle), this.#makeButton('destroy', 'Destroy', handle)),
     );
+  }
+
+  /**
+   * @param {number} handle
+   * @param {import('./targets.js').Target} target
+   */
+  #makeMiniature(handle, { width, height }) {
+    const scale = Math.min(mostWidth / width, mostHeight / height, 1);
+    const miniature = make('canvas', {
+      role: 'img',
+      'aria-label': `What ${formatHandle(handle)} holds`,
+      width: Math.max(1, Math.round(width * scale)),
+      height: Math.max(1, Math.round(height * scale)),
+    });
+    this.#miniatures.set(handle, miniature);
+    return miniature;
   }
 
   /**
@@ -74,24 +82,22 @@ export class BuffersTable extends EventTarget {
     return button;
   }
 
-  drawAll() {
-    for (const handle of this.#miniatures.keys()) {
-      this.#draw(handle);
-    }
-  }
-
   #drawNext() {
     const handles = [...this.#miniatures.keys()];
     const bounds = this.body.getBoundingClientRect();
     const isSeen = bounds.bottom > 0 && bounds.top < innerHeight && !document.hidden;
     if (handles.length > 0 && isSeen) {
       this.#next = (this.#next + 1) % handles.length;
-      this.#draw(handles[this.#next]);
+      this.draw(handles[this.#next]);
     }
   }
 
-  /** @param {number} handle */
-  #draw(handle) {
+  /**
+   * Draws a miniature at once, where there is one.
+   *
+   * @param {number} handle
+   */
+  draw(handle) {
     const miniature = this.#miniatures.get(handle);
     const target = this.engine.targets.get(handle);
     const context = miniature?.getContext('2d');

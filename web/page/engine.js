@@ -34,6 +34,11 @@ function createCanvas() {
   return canvas;
 }
 
+/** @param {Map<number, Target>} targets */
+function describeTargets(targets) {
+  return [...targets].map(([handle, { width, height }]) => `${handle} ${width} ${height}`).join();
+}
+
 /**
  * Tells of: "log" with a line; "targets" when a target came, went or changed its size; "drawn" when
  * pixels may have changed; "binding" when the surface was bound or let go of; "restored" when the browser
@@ -123,18 +128,11 @@ export class Engine extends EventTarget {
     if (!this.isBound || this.gl.isContextLost()) {
       return;
     }
-    const { gl, surface } = this;
-    this.targets.clear();
-    this.targets.set(windowHandle, { framebuffer: null, ...windowSize, isComplete: true });
-    this.withoutLog(() => {
-      for (let slot = 1; slot <= mostBuffers; ++slot) {
-        const target = findTarget(gl, surface, windowHandle | slot);
-        if (target) {
-          this.targets.set(windowHandle | slot, target);
-        }
-      }
-    });
-    this.#tell('targets');
+    const before = describeTargets(this.targets);
+    this.targets = this.withoutLog(() => this.#findTargets());
+    if (describeTargets(this.targets) !== before) {
+      this.#tell('targets');
+    }
   }
 
   tellDrawn() {
@@ -153,6 +151,18 @@ export class Engine extends EventTarget {
     } finally {
       this.#isMuted = wasMuted;
     }
+  }
+
+  #findTargets() {
+    /** @type {Map<number, Target>} */
+    const targets = new Map([[windowHandle, { framebuffer: null, ...windowSize, isComplete: true }]]);
+    for (let slot = 1; slot <= mostBuffers; ++slot) {
+      const target = findTarget(this.gl, this.surface, windowHandle | slot);
+      if (target) {
+        targets.set(windowHandle | slot, target);
+      }
+    }
+    return targets;
   }
 
   #place() {

@@ -54,7 +54,7 @@ function makeNumbers(label, value, most) {
     'fieldset',
     {},
     make('legend', {}, label),
-    make('div', { class: 'numbers' }, ...numbers.map(({ element }) => element)),
+    make('div', { class: 'numbers four' }, ...numbers.map(({ element }) => element)),
   );
   return {
     element,
@@ -143,8 +143,7 @@ const makers = {
         show();
       }
     });
-    numbers.element.lastElementChild?.append(picker);
-    numbers.element.append(make('small', {}, hint ?? ''));
+    numbers.element.append(make('div', { class: 'picker' }, picker, make('small', {}, hint ?? '')));
     show();
     return {
       ...numbers,

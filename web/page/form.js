@@ -3,19 +3,22 @@
 import { make } from './dom.js';
 import { makeField } from './fields.js';
 import { operationNotes, results } from './library.js';
+import { makeLine } from './logpanel.js';
 
 /** @typedef {import('./operations.js').Operation} Operation */
 /** @typedef {import('./operations.js').Outcome} Outcome */
 
+const mostLines = 6;
+
 /** @param {Outcome} outcome */
 function describe({ code, note }) {
-  const told = note ? make('p', {}, note) : '';
+  const told = note ? [make('p', {}, note)] : [];
   if (code === undefined) {
-    return [told || make('p', {}, 'It returns nothing.')];
+    return note ? told : [make('p', {}, 'It returns nothing.')];
   }
   const { name, meaning, advice } = results[code];
   const sentence = `${meaning}.${code === 0 ? '' : ` ${advice}`}`;
-  return [make('p', {}, make('strong', {}, `${code} ${name}`), ` ${sentence}`), told];
+  return [make('p', {}, make('strong', {}, `${code} ${name}`), ` ${sentence}`), ...told];
 }
 
 export class Form extends EventTarget {
@@ -39,19 +42,19 @@ export class Form extends EventTarget {
       this.#widgets[name].element.dataset.field = name;
       return this.#widgets[name].element;
     });
-    const copy = make('button', { type: 'button', class: 'quiet' }, 'Copy');
+    const copy = make('button', { type: 'button', class: 'quiet' }, 'Copy the C++');
     copy.addEventListener('click', async () => {
       await navigator.clipboard.writeText(this.#code.textContent ?? '');
       copy.textContent = 'Copied';
-      setTimeout(() => (copy.textContent = 'Copy'), 1500);
+      setTimeout(() => (copy.textContent = 'Copy the C++'), 1500);
     });
     this.element = make(
       'form',
       { class: 'operation' },
       make('p', { class: 'note' }, operationNotes[operation.name]),
       ...fields,
-      make('div', { class: 'code' }, make('pre', { tabIndex: 0, 'aria-label': 'The same in C++' }, this.#code), copy),
-      make('div', { class: 'actions' }, make('button', { class: 'main' }, `Run ${operation.name}`)),
+      make('pre', { tabIndex: 0, 'aria-label': 'The same in C++' }, this.#code),
+      make('div', { class: 'actions' }, make('button', { class: 'main' }, `Run ${operation.name}`), copy),
       this.#result,
     );
     this.element.addEventListener('input', (event) => this.#update(event));
@@ -76,10 +79,15 @@ export class Form extends EventTarget {
     this.#update();
   }
 
-  /** @param {Outcome} outcome */
-  show(outcome) {
+  /**
+   * @param {Outcome} outcome
+   * @param {import('./log.js').LogLine[]} lines what it logged
+   */
+  show(outcome, lines) {
+    const logged = lines.slice(0, mostLines).map((line) => makeLine(line));
+    const more = lines.length > mostLines ? [`… and more in the log: ${lines.length - mostLines}`] : [];
     this.#result.classList.toggle('bad', (outcome.code ?? 0) !== 0);
-    this.#result.replaceChildren(...describe(outcome));
+    this.#result.replaceChildren(...describe(outcome), ...logged, ...more);
   }
 
   /** @param {Event} [event] */

@@ -7,6 +7,21 @@ import { priorityOf } from './log.js';
 
 const mostEntries = 500;
 
+/**
+ * @param {import('./log.js').LogLine} line
+ * @param {number} count how often it came in a row
+ */
+export function makeLine({ priority, tag, text }, count = 1) {
+  return make(
+    'div',
+    { class: `line priority-${priority}` },
+    make('span', { class: 'priority' }, priority),
+    make('span', { class: 'tag' }, tag),
+    make('span', { class: 'text' }, text),
+    count > 1 ? make('span', { class: 'count' }, `×${count}`) : '',
+  );
+}
+
 export class LogPanel {
   /** @type {Entry[]} */
   #entries = [];
@@ -54,21 +69,9 @@ export class LogPanel {
     const shown = this.#entries.filter(({ priority, tag }) =>
       library.Shows(this.filter.value, priorityOf(priority), tag),
     );
-    this.list.replaceChildren(...shown.map((entry) => this.#makeLine(entry)));
+    this.list.replaceChildren(...shown.map((entry) => makeLine(entry, entry.count)));
     this.list.scrollTop = this.list.scrollHeight;
     const hidden = this.#entries.length - shown.length;
     this.hidden.textContent = hidden === 0 ? '' : `${hidden} filtered out`;
-  }
-
-  /** @param {Entry} entry */
-  #makeLine({ priority, tag, text, count }) {
-    return make(
-      'div',
-      { class: `line priority-${priority}` },
-      make('span', { class: 'priority' }, priority),
-      make('span', { class: 'tag' }, tag),
-      make('span', { class: 'text' }, text),
-      count > 1 ? make('span', { class: 'count' }, `×${count}`) : '',
-    );
   }
 }

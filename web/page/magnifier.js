@@ -1,11 +1,12 @@
 // What the pixel under the pointer is made of, in the buffer and on the window.
 
-import { find } from './dom.js';
+import { find, make } from './dom.js';
 import { formatHandle, readPixels, windowHandle } from './targets.js';
 
 /** @typedef {{ handle: number, x: number, y: number }} Pixel */
 
 const reach = 7; // pixels shown on each side of the one under the pointer
+const pauseBetweenLooks = 100; // milliseconds, while the picture moves
 
 /**
  * @param {import('./libzogles.mjs').Rect} rect
@@ -36,6 +37,7 @@ export class Magnifier {
   #pixel = { handle: windowHandle, x: 0, y: 0 };
 
   #isWaiting = false;
+  #lastLook = 0;
 
   /**
    * @param {import('./engine.js').Engine} engine
@@ -53,17 +55,28 @@ export class Magnifier {
       this.#pixel = { handle: stage.handle, x, y };
       this.#ask();
     };
+    const place = (/** @type {number} */ x, /** @type {number} */ y) => {
+      this.x.value = `${x}`;
+      this.y.value = `${y}`;
+      point(x, y);
+    };
     stage.addEventListener('point', (event) => {
       const { x, y } = /** @type {CustomEvent} */ (event).detail;
-      Object.assign(this.x, { value: `${x}` });
-      Object.assign(this.y, { value: `${y}` });
-      point(x, y);
+      place(x, y);
     });
     for (const input of [this.x, this.y]) {
       input.addEventListener('input', () => point(Number(this.x.value), Number(this.y.value)));
     }
-    stage.addEventListener('view', () => point(Number(this.x.value), Number(this.y.value)));
-    engine.addEventListener('drawn', () => this.#ask());
+    stage.addEventListener('view', () => {
+      const { width, height } = stage.target ?? engine.canvas;
+      const isInside = Number(this.x.value) < width && Number(this.y.value) < height;
+      place(isInside ? Number(this.x.value) : width >> 1, isInside ? Number(this.y.value) : height >> 1);
+    });
+    engine.addEventListener('drawn', () => {
+      if (performance.now() - this.#lastLook > pauseBetweenLooks) {
+        this.#ask();
+      }
+    });
     point(Number(this.x.value), Number(this.y.value));
   }
 
@@ -79,19 +92,10 @@ export class Magnifier {
   }
 
   #update() {
+    this.#lastLook = performance.now();
     const [buffer, onWindow] = this.#findPair();
     this.#drawLens();
-    const lines = [
-      `buffer ${buffer ? this.#describe(buffer) : '— (no buffer’s pixel is here)'}`,
-      `window ${onWindow ? this.#describe(onWindow) : '— (not presented)'}`,
-    ];
-    this.rows.replaceChildren(
-      ...lines.map((line) => {
-        const row = document.createElement('div');
-        row.textContent = line;
-        return row;
-      }),
-    );
+    this.rows.replaceChildren(this.#makeRow('buffer', buffer), this.#makeRow('window', onWindow));
   }
 
   // The pixel of the buffer and the one of the window that it became, as far as there are both.
@@ -109,16 +113,28 @@ export class Magnifier {
     return [pixel, place && { handle: windowHandle, ...place }];
   }
 
-  /** @param {Pixel} pixel */
-  #describe({ handle, x, y }) {
-    const place = `${formatHandle(handle)} (${x}, ${y})`;
+  /**
+   * @param {string} where
+   * @param {Pixel | null} pixel
+   */
+  #makeRow(where, pixel) {
+    const place = pixel ? [formatHandle(pixel.handle), `${pixel.x}, ${pixel.y}`] : ['—', '—'];
+    const channels = (pixel && this.#read(pixel)) ?? ['—', '—', '—', '—'];
+    const cells = [...place, ...channels].map((text) => make('td', {}, `${text}`));
+    return make('tr', {}, make('th', { scope: 'row' }, where), ...cells);
+  }
+
+  /**
+   * @param {Pixel} pixel
+   * @returns {number[] | null} r, g, b and a, or null where there is none
+   */
+  #read({ handle, x, y }) {
     const target = this.engine.targets.get(handle);
     const isInside = target?.isComplete && holds({ x: 0, y: 0, ...target }, x, y);
     if (!this.engine.isBound || !target || !isInside) {
-      return `${place} —`;
+      return null;
     }
-    const [r, g, b, a] = readPixels(this.engine.gl, target, { x, y, width: 1, height: 1 });
-    return `${place} r ${r} g ${g} b ${b} a ${a}`;
+    return [...readPixels(this.engine.gl, target, { x, y, width: 1, height: 1 })];
   }
 
   #drawLens() {
@@ -131,6 +147,11 @@ export class Magnifier {
       return;
     }
     const rect = { x: x - reach, y: y - reach, width: side, height: side };
-    context?.putImageData(new ImageData(readPixels(this.engine.gl, target, rect), side, side), 0, 0);
+    const pixels = readPixels(this.engine.gl, target, rect);
+    if (handle === windowHandle) {
+      // The window's colours are multiplied by alpha already; a buffer's are not.
+      pixels.forEach((_, i) => i % 4 === 3 && (pixels[i] = 255));
+    }
+    context?.putImageData(new ImageData(pixels, side, side), 0, 0);
   }
 }

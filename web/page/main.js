@@ -65,12 +65,10 @@ function wirePlayer(player) {
     } else {
       startScene(player);
     }
-    show();
   });
-  for (const type of ['drawn', 'binding']) {
-    player.engine.addEventListener(type, show);
-  }
-  return show;
+  player.addEventListener('state', show);
+  player.engine.addEventListener('binding', show);
+  show();
 }
 
 /**
@@ -145,8 +143,13 @@ function wireOperations(engine, player, { stage, panel, table }) {
     }
     const isText = operation.name === 'ZoDrawText';
     const before = isText ? takePicture(engine, values.handle) : null;
+    /** @type {import('./log.js').LogLine[]} */
+    const lines = [];
+    const listen = (/** @type {Event} */ event) => lines.push(/** @type {CustomEvent} */ (event).detail);
+    engine.addEventListener('log', listen);
     const outcome = operation.run(engine, values);
-    form.show(outcome);
+    engine.removeEventListener('log', listen);
+    form.show(outcome, lines);
     engine.updateTargets();
     if (handle !== undefined && engine.targets.has(handle)) {
       stage.view(handle);
@@ -160,7 +163,7 @@ function wireOperations(engine, player, { stage, panel, table }) {
       stage.setBox({ handle: pen.handle, ...makeBox(outcome.box, pen.rect) });
     }
     stage.refresh();
-    table.drawAll();
+    table.draw(stage.handle);
     engine.tellDrawn();
   });
   table.addEventListener('view', (event) => stage.view(/** @type {CustomEvent} */ (event).detail));
@@ -168,6 +171,7 @@ function wireOperations(engine, player, { stage, panel, table }) {
     panel.choose('ZoDestoryGLFBO');
     panel.form.write('handle', /** @type {CustomEvent} */ (event).detail);
     panel.dispatchEvent(new Event('run'));
+    panel.focus(); // the button that was pressed is gone
   });
 }
 
@@ -212,7 +216,7 @@ async function start() {
   });
   const panels = createPanels(engine, player, files);
   new Magnifier(engine, panels.stage);
-  const showPlaying = wirePlayer(player);
+  wirePlayer(player);
   wireOperations(engine, player, panels);
   wireFiles(engine, player, files, panels);
   panels.losses.addEventListener('back', () => {
@@ -226,7 +230,6 @@ async function start() {
   if (!matchMedia('(prefers-reduced-motion: reduce)').matches) {
     player.play();
   }
-  showPlaying();
   markFields(panels.panel, panels.stage);
   document.documentElement.dataset.state = 'ready';
   return { engine, player, log };

@@ -142,7 +142,8 @@ export const operations = [
     run: ({ surface }, values) => ({ code: surface.ZoBlit(values) }),
     cpp: ({ srcHandle, srcRect, dstHandle, dstRect }) => [
       `const tagZoBlitInfo info = {${cppHandle(srcHandle)}, ${cppHandle(dstHandle)},`,
-      `                            ${cppRect(srcRect)}, ${cppRect(dstRect)}};`,
+      `                            ${cppRect(srcRect)},`,
+      `                            ${cppRect(dstRect)}};`,
       'surface.ZoBlit(&info);',
     ],
   },

@@ -56,6 +56,11 @@ export class OperationsPanel extends EventTarget {
     this.dispatchEvent(new Event('choose'));
   }
 
+  /** Puts the keyboard on the chosen operation. */
+  focus() {
+    this.order.find(({ tabIndex }) => tabIndex === 0)?.focus();
+  }
+
   /**
    * @param {KeyboardEvent} event
    * @param {HTMLButtonElement} tab

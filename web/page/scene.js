@@ -19,7 +19,8 @@ const shownMinute = 32; // 21:47 by the scene's clock
 const lastMinute = 74;
 const minutesPerFrame = 1 / 60; // a minute in a second
 
-export class Player {
+/** Tells of "state" when it starts or stops to play. */
+export class Player extends EventTarget {
   /**
    * The names of the scene's buffers, by handle.
    *
@@ -39,9 +40,10 @@ export class Player {
    * @param {string} fontPath what the scene is written in
    */
   constructor(engine, fontPath) {
+    super();
     this.engine = engine;
     this.fontPath = fontPath;
-    engine.addEventListener('binding', () => this.pauseUnbound());
+    engine.addEventListener('binding', () => engine.isBound || this.pause());
   }
 
   /** False once the scene cannot be drawn any more, as when a buffer of its was destroyed. */
@@ -91,7 +93,7 @@ export class Player {
     if (this.isPlaying || !this.isReady) {
       return;
     }
-    this.isPlaying = true;
+    this.#setPlaying(true);
     const step = () => {
       if (!this.isPlaying) {
         return;
@@ -99,18 +101,23 @@ export class Player {
       this.#scene?.Scroll();
       this.#minute = this.#minute > lastMinute ? 0 : this.#minute + minutesPerFrame;
       this.drawFrame();
-      this.isPlaying = this.isPlaying && this.isReady;
-      requestAnimationFrame(step);
+      if (this.isReady) {
+        requestAnimationFrame(step);
+      } else {
+        this.pause();
+      }
     };
     requestAnimationFrame(step);
   }
 
   pause() {
-    this.isPlaying = false;
+    this.#setPlaying(false);
   }
 
-  pauseUnbound() {
-    this.isPlaying = this.isPlaying && this.engine.isBound;
+  /** @param {boolean} isPlaying */
+  #setPlaying(isPlaying) {
+    this.isPlaying = isPlaying;
+    this.dispatchEvent(new Event('state'));
   }
 
   drawFrame() {

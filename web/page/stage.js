@@ -62,7 +62,7 @@ export class Stage extends EventTarget {
     for (const type of ['targets', 'binding']) {
       engine.addEventListener(type, () => this.#listTargets());
     }
-    engine.addEventListener('drawn', () => this.#update());
+    engine.addEventListener('drawn', () => this.#copy(pauseBetweenCopies));
     this.overlay.addEventListener('pointerdown', (event) => this.#startDrag(/** @type {PointerEvent} */ (event)));
     this.viewport.addEventListener('pointermove', (event) => this.#point(event));
     this.viewport.addEventListener('pointerdown', (event) => this.#point(event));
@@ -78,8 +78,8 @@ export class Stage extends EventTarget {
   view(handle) {
     this.handle = handle;
     this.select.value = `${handle}`;
-    this.#lastCopy = 0;
-    this.#update();
+    this.#layOut();
+    this.#copy(0);
     this.#drawOverlay();
     this.dispatchEvent(new Event('view'));
   }
@@ -107,34 +107,44 @@ export class Stage extends EventTarget {
     this.view(handles.includes(this.handle) ? this.handle : windowHandle);
   }
 
-  #update() {
+  /** Whether the picture is a copy of a buffer that can be read. */
+  get #isCopy() {
     const { engine, target } = this;
-    const isWindow = this.handle === windowHandle;
-    const isSeen = engine.isBound && target !== undefined && isReadable(target);
-    engine.canvas.hidden = !isWindow || !engine.isBound;
-    this.copy.hidden = isWindow || !isSeen;
-    this.message.hidden = isSeen;
-    if (!engine.isBound) {
-      this.message.textContent = 'No window is bound. Its buffers are remembered by their handles and sizes.';
-    } else if (!isSeen) {
-      this.message.textContent = 'Nothing drawn into a buffer of this size leaves a mark.';
-    }
-    const { width, height } = isSeen ? target : engine.canvas;
+    return this.handle !== windowHandle && engine.isBound && target !== undefined && isReadable(target);
+  }
+
+  #layOut() {
+    const { engine, target } = this;
+    const isWindow = this.handle === windowHandle && engine.isBound;
+    engine.canvas.hidden = !isWindow;
+    this.copy.hidden = !this.#isCopy;
+    this.message.hidden = isWindow || this.#isCopy;
+    this.message.textContent = engine.isBound
+      ? 'Nothing drawn into a buffer of this size leaves a mark.'
+      : 'No window is bound. Its buffers are remembered by their handles and sizes.';
+    const { width, height } = target?.isComplete ? target : engine.canvas;
     this.viewport.style.setProperty('--width', `${width}`);
     this.viewport.style.setProperty('--height', `${height}`);
     this.overlay.setAttribute('viewBox', `0 0 ${width} ${height}`);
+    this.copy.setAttribute('aria-label', `Buffer ${formatHandle(this.handle)} ${this.nameOf(this.handle)}`);
+  }
+
+  /**
+   * Shows what a buffer holds now.
+   *
+   * @param {number} pause the milliseconds that must have gone by since it was last done
+   */
+  #copy(pause) {
     const now = performance.now();
-    if (isSeen && !isWindow && now - this.#lastCopy >= pauseBetweenCopies) {
+    if (this.#isCopy && this.target && now - this.#lastCopy >= pause) {
       this.#lastCopy = now;
-      copyToCanvas(engine.gl, target, this.copy);
-      this.copy.setAttribute('aria-label', `Buffer ${formatHandle(this.handle)} ${this.nameOf(this.handle)}`);
+      copyToCanvas(this.engine.gl, this.target, this.copy);
     }
   }
 
   /** Shows what was just drawn, however short the time since the last look. */
   refresh() {
-    this.#lastCopy = 0;
-    this.#update();
+    this.#copy(0);
   }
 
   /**
