@@ -7,29 +7,37 @@ const [header, guide] = process.argv.slice(2).map((path) => readFileSync(path, '
 
 /** The prose of a comment: no markers, no line breaks within a paragraph. */
 function toProse(comment) {
-  return comment.replace(/^\s*\/\/\/<? ?/gm, '').replace(/\s*\n(?!\n)/g, ' ').replace(/`/g, '').trim();
+    return comment
+        .replace(/^\s*\/\/\/<? ?/gm, '')
+        .replace(/\s*\n(?!\n)/g, ' ')
+        .replace(/`/g, '')
+        .trim();
 }
 
 function describeResults() {
-  const results = {};
-  for (const [, name, code, meaning] of header.matchAll(/^ +(ZO_\w+) = (\d+), +\/\/\/< (.*)$/gm)) {
-    results[code] = { name, meaning: toProse(meaning), advice: '' };
-  }
-  for (const [, code, , advice] of guide.matchAll(/^\| (\d+) \| `ZO_\w+` \| (.*) \| (.*) \|$/gm)) {
-    results[code].advice = toProse(advice).replace(/\[([^\]]*)\]\([^)]*\)/g, '$1');
-  }
-  return results;
+    const results = {};
+    for (const [, name, code, meaning] of header.matchAll(
+        /^ +(ZO_\w+) = (\d+), +\/\/\/< (.*)$/gm,
+    )) {
+        results[code] = { name, meaning: toProse(meaning), advice: '' };
+    }
+    for (const [, code, , advice] of guide.matchAll(
+        /^\| (\d+) \| `ZO_\w+` \| (.*) \| (.*) \|$/gm,
+    )) {
+        results[code].advice = toProse(advice).replace(/\[([^\]]*)\]\([^)]*\)/g, '$1');
+    }
+    return results;
 }
 
 /** The first paragraph of what the header says of each operation. */
 function describeOperations() {
-  const operations = {};
-  const declaration = /((?:^ +\/\/\/.*\n)+) +(?:unsigned )?(?:int|void) (Zo\w+|Init)\(/gm;
-  for (const [, comment, name] of header.matchAll(declaration)) {
-    const [first] = comment.split(/^ +\/\/\/ ?(?:$|@)/m);
-    operations[name] = toProse(first);
-  }
-  return operations;
+    const operations = {};
+    const declaration = /((?:^ +\/\/\/.*\n)+) +(?:unsigned )?(?:int|void) (Zo\w+|Init)\(/gm;
+    for (const [, comment, name] of header.matchAll(declaration)) {
+        const [first] = comment.split(/^ +\/\/\/ ?(?:$|@)/m);
+        operations[name] = toProse(first);
+    }
+    return operations;
 }
 
 console.log(`// Made from the library's header and guide.

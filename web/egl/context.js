@@ -5,80 +5,92 @@
 // calls reach for the current context without asking whether there is one, and its table of names keeps
 // objects for good, whose context the browser then cannot let go of either.
 mergeInto(LibraryManager.library, {
-  $Contexts__deps: ['$GL'],
-  $Contexts__postset: 'Contexts.install();',
-  $Contexts: {
-    // Stands where no context is current: creates nothing, knows nothing, does nothing.
-    none: null,
+    $Contexts__deps: ['$GL'],
+    $Contexts__postset: 'Contexts.install();',
+    $Contexts: {
+        // Stands where no context is current: creates nothing, knows nothing, does nothing.
+        none: null,
 
-    install: function() {
-      Contexts.none = new Proxy({}, { get: function() { return function() { return null; }; } });
-      var makeCurrent = GL.makeContextCurrent;
-      GL.makeContextCurrent = function(handle) {
-        var isDone = makeCurrent(handle);
-        GLctx = GLctx || Contexts.none;
-        return isDone;
-      };
-      var deleteContext = GL.deleteContext;
-      GL.deleteContext = function(handle) {
-        var context = GL.contexts[handle];
-        if (context) {
-          Contexts.deleteObjects(context.GLctx);
-        }
-        deleteContext(handle);
-      };
-      GLctx = Contexts.none;
+        install: function () {
+            Contexts.none = new Proxy(
+                {},
+                {
+                    get: function () {
+                        return function () {
+                            return null;
+                        };
+                    },
+                },
+            );
+            var makeCurrent = GL.makeContextCurrent;
+            GL.makeContextCurrent = function (handle) {
+                var isDone = makeCurrent(handle);
+                GLctx = GLctx || Contexts.none;
+                return isDone;
+            };
+            var deleteContext = GL.deleteContext;
+            GL.deleteContext = function (handle) {
+                var context = GL.contexts[handle];
+                if (context) {
+                    Contexts.deleteObjects(context.GLctx);
+                }
+                deleteContext(handle);
+            };
+            GLctx = Contexts.none;
+        },
+
+        deleteObjects: function (gl) {
+            var remove = function (names, deleteOne) {
+                for (var i = 0; i < names.length; ++i) {
+                    if (names[i]) {
+                        deleteOne.call(gl, names[i]);
+                        names[i] = null;
+                    }
+                }
+            };
+            remove(GL.framebuffers, gl.deleteFramebuffer);
+            remove(GL.textures, gl.deleteTexture);
+            remove(GL.buffers, gl.deleteBuffer);
+            remove(GL.programs, gl.deleteProgram);
+            remove(GL.shaders, gl.deleteShader);
+        },
     },
 
-    deleteObjects: function(gl) {
-      var remove = function(names, deleteOne) {
-        for (var i = 0; i < names.length; ++i) {
-          if (names[i]) {
-            deleteOne.call(gl, names[i]);
-            names[i] = null;
-          }
+    // Emscripten hands out a name even where nothing was created.
+    glCreateShader__deps: ['$GL', '$Contexts'],
+    glCreateShader: function (type) {
+        var shader = GLctx.createShader(type);
+        if (!shader) {
+            return 0;
         }
-      };
-      remove(GL.framebuffers, gl.deleteFramebuffer);
-      remove(GL.textures, gl.deleteTexture);
-      remove(GL.buffers, gl.deleteBuffer);
-      remove(GL.programs, gl.deleteProgram);
-      remove(GL.shaders, gl.deleteShader);
+        var name = GL.getNewId(GL.shaders);
+        GL.shaders[name] = shader;
+        return name;
     },
-  },
 
-  // Emscripten hands out a name even where nothing was created.
-  glCreateShader__deps: ['$GL', '$Contexts'],
-  glCreateShader: function(type) {
-    var shader = GLctx.createShader(type);
-    if (!shader) {
-      return 0;
-    }
-    var name = GL.getNewId(GL.shaders);
-    GL.shaders[name] = shader;
-    return name;
-  },
+    glCreateProgram__deps: ['$GL', '$Contexts'],
+    glCreateProgram: function () {
+        var program = GLctx.createProgram();
+        if (!program) {
+            return 0;
+        }
+        // What Emscripten's other calls expect of a program.
+        program.name = GL.getNewId(GL.programs);
+        program.maxUniformLength =
+            program.maxAttributeLength =
+            program.maxUniformBlockNameLength =
+                0;
+        program.uniformIdCounter = 1;
+        GL.programs[program.name] = program;
+        return program.name;
+    },
 
-  glCreateProgram__deps: ['$GL', '$Contexts'],
-  glCreateProgram: function() {
-    var program = GLctx.createProgram();
-    if (!program) {
-      return 0;
-    }
-    // What Emscripten's other calls expect of a program.
-    program.name = GL.getNewId(GL.programs);
-    program.maxUniformLength = program.maxAttributeLength = program.maxUniformBlockNameLength = 0;
-    program.uniformIdCounter = 1;
-    GL.programs[program.name] = program;
-    return program.name;
-  },
-
-  // A blank glyph has no pixels and no memory for them, which WebGL takes for a mistake.
-  glTexSubImage2D__deps: ['$emscriptenWebGLGetTexPixelData'],
-  glTexSubImage2D: function(target, level, x, y, width, height, format, type, pixels) {
-    if (width !== 0 && height !== 0) {
-      var data = emscriptenWebGLGetTexPixelData(type, format, width, height, pixels, 0);
-      GLctx.texSubImage2D(target, level, x, y, width, height, format, type, data);
-    }
-  },
+    // A blank glyph has no pixels and no memory for them, which WebGL takes for a mistake.
+    glTexSubImage2D__deps: ['$emscriptenWebGLGetTexPixelData'],
+    glTexSubImage2D: function (target, level, x, y, width, height, format, type, pixels) {
+        if (width !== 0 && height !== 0) {
+            var data = emscriptenWebGLGetTexPixelData(type, format, width, height, pixels, 0);
+            GLctx.texSubImage2D(target, level, x, y, width, height, format, type, data);
+        }
+    },
 });

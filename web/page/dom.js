@@ -8,16 +8,16 @@
  * @returns {HTMLElementTagNameMap[Name]}
  */
 export function make(name, properties = {}, ...children) {
-  const element = document.createElement(name);
-  for (const [key, value] of Object.entries(properties)) {
-    if (key.includes('-') || key === 'role' || key === 'for' || key === 'class') {
-      element.setAttribute(key, value);
-    } else {
-      Object.assign(element, { [key]: value });
+    const element = document.createElement(name);
+    for (const [key, value] of Object.entries(properties)) {
+        if (key.includes('-') || key === 'role' || key === 'for' || key === 'class') {
+            element.setAttribute(key, value);
+        } else {
+            Object.assign(element, { [key]: value });
+        }
     }
-  }
-  element.append(...children);
-  return element;
+    element.append(...children);
+    return element;
 }
 
 /**
@@ -29,9 +29,18 @@ export function make(name, properties = {}, ...children) {
  * @returns {Type}
  */
 export function find(id, type) {
-  const element = document.getElementById(id);
-  if (!(element instanceof type)) {
-    throw new Error(`the page has no ${type.name} "${id}"`);
-  }
-  return element;
+    const element = document.getElementById(id);
+    if (!(element instanceof type)) {
+        throw new Error(`the page has no ${type.name} "${id}"`);
+    }
+    return element;
+}
+
+/**
+ * Tells the visitor something of the page as a whole; an empty text ends it.
+ *
+ * @param {string} text
+ */
+export function notice(text) {
+    find('notice', HTMLElement).textContent = text;
 }

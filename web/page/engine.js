@@ -17,26 +17,26 @@ export const allComponents = 0x3f;
 // The library asks for a plain context. The page asks first, so that what the window holds stays there to
 // be looked at: elsewhere it is undefined once it was shown.
 function createCanvas() {
-  const canvas = document.createElement('canvas');
-  Object.assign(canvas, windowSize);
-  canvas.setAttribute('role', 'img');
-  canvas.setAttribute('aria-label', 'The window that the library draws on');
-  const isThere = canvas.getContext('webgl', {
-    alpha: true,
-    antialias: false,
-    depth: false,
-    stencil: false,
-    preserveDrawingBuffer: true,
-  });
-  if (!isThere) {
-    throw new Error('This browser has no WebGL, which the library draws with.');
-  }
-  return canvas;
+    const canvas = document.createElement('canvas');
+    Object.assign(canvas, windowSize);
+    canvas.setAttribute('role', 'img');
+    canvas.setAttribute('aria-label', 'The window that the library draws on');
+    const isThere = canvas.getContext('webgl', {
+        alpha: true,
+        antialias: false,
+        depth: false,
+        stencil: false,
+        preserveDrawingBuffer: true,
+    });
+    if (!isThere) {
+        throw new Error('This browser has no WebGL, which the library draws with.');
+    }
+    return canvas;
 }
 
 /** @param {Map<number, Target>} targets */
 function describeTargets(targets) {
-  return [...targets].map(([handle, { width, height }]) => `${handle} ${width} ${height}`).join();
+    return [...targets].map(([handle, { width, height }]) => `${handle} ${width} ${height}`).join();
 }
 
 /**
@@ -45,155 +45,157 @@ function describeTargets(targets) {
  * gives back a context that it took.
  */
 export class Engine extends EventTarget {
-  /**
-   * @param {HTMLElement} place where the canvas goes
-   */
-  static async start(place) {
-    /** @type {Engine | undefined} */
-    let engine;
-    const canvas = createCanvas();
-    const stderr = createLineReader((line) => engine?.tellLine(line));
-    engine = new Engine(place, canvas, await createLibrary({ canvas, stderr }));
-    return engine;
-  }
-
-  /**
-   * What the window shows, if it was presented from a buffer.
-   *
-   * @type {Presentation | null}
-   */
-  presentation = null;
-
-  /**
-   * The targets by handle, the window first. While no window is bound, as they last were.
-   *
-   * @type {Map<number, Target>}
-   */
-  targets = new Map();
-
-  isBound = false;
-
-  #isMuted = false;
-
-  /**
-   * @param {HTMLElement} place
-   * @param {HTMLCanvasElement} canvas
-   * @param {import('./libzogles.mjs').Library} library
-   */
-  constructor(place, canvas, library) {
-    super();
-    this.place = place;
-    this.canvas = canvas;
-    this.library = library;
-    this.surface = new library.ZoGLDrawSurface();
-    this.#place();
-  }
-
-  /** The library's own WebGL context. */
-  get gl() {
-    return /** @type {WebGLRenderingContext} */ (this.canvas.getContext('webgl'));
-  }
-
-  /** @returns {number} the code of the binding */
-  bind() {
-    if (!this.canvas.isConnected) {
-      this.canvas = createCanvas();
-      this.library.canvas = this.canvas;
-      this.#place();
+    /**
+     * @param {HTMLElement} place where the canvas goes
+     */
+    static async start(place) {
+        /** @type {Engine | undefined} */
+        let engine;
+        const canvas = createCanvas();
+        const stderr = createLineReader((line) => engine?.tellLine(line));
+        engine = new Engine(place, canvas, await createLibrary({ canvas, stderr }));
+        return engine;
     }
-    return this.#afterBinding(this.surface.ZoCreateGLWindowSurface(true));
-  }
 
-  /** @returns {number} the code of binding to no window at all */
-  bindNothing() {
-    return this.#afterBinding(this.surface.ZoCreateGLWindowSurface(false));
-  }
+    /**
+     * What the window shows, if it was presented from a buffer.
+     *
+     * @type {Presentation | null}
+     */
+    presentation = null;
 
-  /** Lets go of the window, which stays where it is. */
-  letGo() {
-    this.surface.ZoDestoryGLWindowSurface();
-    this.presentation = null;
-    this.isBound = false;
-    this.#tell('binding');
-  }
+    /**
+     * The targets by handle, the window first. While no window is bound, as they last were.
+     *
+     * @type {Map<number, Target>}
+     */
+    targets = new Map();
 
-  /** Lets go of the window, as its owner is about to destroy it, and destroys it. */
-  destroyWindow() {
-    this.letGo();
-    this.canvas.remove();
-  }
+    isBound = false;
 
-  /** Looks at the targets anew, after an operation that may have changed them. */
-  updateTargets() {
-    if (!this.isBound || this.gl.isContextLost()) {
-      return;
+    #isMuted = false;
+
+    /**
+     * @param {HTMLElement} place
+     * @param {HTMLCanvasElement} canvas
+     * @param {import('./libzogles.mjs').Library} library
+     */
+    constructor(place, canvas, library) {
+        super();
+        this.place = place;
+        this.canvas = canvas;
+        this.library = library;
+        this.surface = new library.ZoGLDrawSurface();
+        this.#place();
     }
-    const before = describeTargets(this.targets);
-    this.targets = this.withoutLog(() => this.#findTargets());
-    if (describeTargets(this.targets) !== before) {
-      this.#tell('targets');
+
+    /** The library's own WebGL context. */
+    get gl() {
+        return /** @type {WebGLRenderingContext} */ (this.canvas.getContext('webgl'));
     }
-  }
 
-  tellDrawn() {
-    this.#tell('drawn');
-  }
-
-  /**
-   * @template T
-   * @param {() => T} work what the page does for itself, and nobody wants to read about
-   */
-  withoutLog(work) {
-    const wasMuted = this.#isMuted;
-    this.#isMuted = true;
-    try {
-      return work();
-    } finally {
-      this.#isMuted = wasMuted;
+    /** @returns {number} the code of the binding */
+    bind() {
+        if (!this.canvas.isConnected) {
+            this.canvas = createCanvas();
+            this.library.canvas = this.canvas;
+            this.#place();
+        }
+        return this.#afterBinding(this.surface.ZoCreateGLWindowSurface(true));
     }
-  }
 
-  #findTargets() {
-    /** @type {Map<number, Target>} */
-    const targets = new Map([[windowHandle, { framebuffer: null, ...windowSize, isComplete: true }]]);
-    for (let slot = 1; slot <= mostBuffers; ++slot) {
-      const target = findTarget(this.gl, this.surface, windowHandle | slot);
-      if (target) {
-        targets.set(windowHandle | slot, target);
-      }
+    /** @returns {number} the code of binding to no window at all */
+    bindNothing() {
+        return this.#afterBinding(this.surface.ZoCreateGLWindowSurface(false));
     }
-    return targets;
-  }
 
-  #place() {
-    this.canvas.addEventListener('webglcontextlost', (event) => {
-      event.preventDefault(); // or the browser never gives it back
-      if (this.isBound) {
+    /** Lets go of the window, which stays where it is. */
+    letGo() {
+        this.surface.ZoDestoryGLWindowSurface();
+        this.presentation = null;
+        this.isBound = false;
+        this.#tell('binding');
+    }
+
+    /** Lets go of the window, as its owner is about to destroy it, and destroys it. */
+    destroyWindow() {
         this.letGo();
-      }
-    });
-    this.canvas.addEventListener('webglcontextrestored', () => this.#tell('restored'));
-    this.place.append(this.canvas);
-  }
-
-  /** @param {number} code */
-  #afterBinding(code) {
-    const changedNothing = code === 101; // a null window
-    this.isBound = changedNothing ? this.isBound : code === 0;
-    this.updateTargets();
-    this.#tell('binding');
-    return code;
-  }
-
-  /** @param {import('./log.js').LogLine} line */
-  tellLine(line) {
-    if (!this.#isMuted) {
-      this.dispatchEvent(new CustomEvent('log', { detail: line }));
+        this.canvas.remove();
     }
-  }
 
-  /** @param {string} type */
-  #tell(type) {
-    this.dispatchEvent(new Event(type));
-  }
+    /** Looks at the targets anew, after an operation that may have changed them. */
+    updateTargets() {
+        if (!this.isBound || this.gl.isContextLost()) {
+            return;
+        }
+        const before = describeTargets(this.targets);
+        this.targets = this.withoutLog(() => this.#findTargets());
+        if (describeTargets(this.targets) !== before) {
+            this.#tell('targets');
+        }
+    }
+
+    tellDrawn() {
+        this.#tell('drawn');
+    }
+
+    /**
+     * @template T
+     * @param {() => T} work what the page does for itself, and nobody wants to read about
+     */
+    withoutLog(work) {
+        const wasMuted = this.#isMuted;
+        this.#isMuted = true;
+        try {
+            return work();
+        } finally {
+            this.#isMuted = wasMuted;
+        }
+    }
+
+    #findTargets() {
+        /** @type {Map<number, Target>} */
+        const targets = new Map([
+            [windowHandle, { framebuffer: null, ...windowSize, isComplete: true }],
+        ]);
+        for (let slot = 1; slot <= mostBuffers; ++slot) {
+            const target = findTarget(this.gl, this.surface, windowHandle | slot);
+            if (target) {
+                targets.set(windowHandle | slot, target);
+            }
+        }
+        return targets;
+    }
+
+    #place() {
+        this.canvas.addEventListener('webglcontextlost', (event) => {
+            event.preventDefault(); // or the browser never gives it back
+            if (this.isBound) {
+                this.letGo();
+            }
+        });
+        this.canvas.addEventListener('webglcontextrestored', () => this.#tell('restored'));
+        this.place.append(this.canvas);
+    }
+
+    /** @param {number} code */
+    #afterBinding(code) {
+        const changedNothing = code === 101; // a null window
+        this.isBound = changedNothing ? this.isBound : code === 0;
+        this.updateTargets();
+        this.#tell('binding');
+        return code;
+    }
+
+    /** @param {import('./log.js').LogLine} line */
+    tellLine(line) {
+        if (!this.#isMuted) {
+            this.dispatchEvent(new CustomEvent('log', { detail: line }));
+        }
+    }
+
+    /** @param {string} type */
+    #tell(type) {
+        this.dispatchEvent(new Event(type));
+    }
 }

@@ -9,7 +9,7 @@ const priorities = /** @type {Record<string, number>} */ ({ V: 2, D: 3, I: 4, W:
 
 /** @param {string} letter */
 export function priorityOf(letter) {
-  return priorities[letter] ?? priorities.F;
+    return priorities[letter] ?? priorities.F;
 }
 
 /**
@@ -19,17 +19,17 @@ export function priorityOf(letter) {
  * @returns {(byte: number) => void}
  */
 export function createLineReader(tell) {
-  const decoder = new TextDecoder();
-  /** @type {number[]} */
-  let bytes = [];
-  return (byte) => {
-    if (byte !== 10) {
-      bytes.push(byte);
-      return;
-    }
-    const line = decoder.decode(new Uint8Array(bytes));
-    bytes = [];
-    const [, priority, tag, text] = format.exec(line) ?? ['', 'E', 'page', line];
-    tell({ priority, tag, text });
-  };
+    const decoder = new TextDecoder();
+    /** @type {number[]} */
+    let bytes = [];
+    return (byte) => {
+        if (byte !== 10) {
+            bytes.push(byte);
+            return;
+        }
+        const line = decoder.decode(new Uint8Array(bytes));
+        bytes = [];
+        const [, priority, tag, text] = format.exec(line) ?? ['', 'E', 'page', line];
+        tell({ priority, tag, text });
+    };
 }

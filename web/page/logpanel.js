@@ -12,66 +12,73 @@ const mostEntries = 500;
  * @param {number} count how often it came in a row
  */
 export function makeLine({ priority, tag, text }, count = 1) {
-  return make(
-    'div',
-    { class: `line priority-${priority}` },
-    make('span', { class: 'priority' }, priority),
-    make('span', { class: 'tag' }, tag),
-    make('span', { class: 'text' }, text),
-    count > 1 ? make('span', { class: 'count' }, `×${count}`) : '',
-  );
+    return make(
+        'div',
+        { class: `line priority-${priority}` },
+        make('span', { class: 'priority' }, priority),
+        make('span', { class: 'tag' }, tag),
+        make('span', { class: 'text' }, text),
+        count > 1 ? make('span', { class: 'count' }, `×${count}`) : '',
+    );
 }
 
 export class LogPanel {
-  /** @type {Entry[]} */
-  #entries = [];
+    /** @type {Entry[]} */
+    #entries = [];
 
-  #isWaiting = false;
+    #isWaiting = false;
 
-  /** @param {import('./engine.js').Engine} engine */
-  constructor(engine) {
-    this.engine = engine;
-    this.list = find('log-lines', HTMLElement);
-    this.filter = find('log-filter', HTMLInputElement);
-    this.hidden = find('log-hidden', HTMLElement);
-    this.filter.addEventListener('input', () => this.#ask());
-    find('log-clear', HTMLButtonElement).addEventListener('click', () => {
-      this.#entries = [];
-      this.#ask();
-    });
-    engine.addEventListener('log', (event) => this.#add(/** @type {CustomEvent} */ (event).detail));
-  }
-
-  /** @param {import('./log.js').LogLine} line */
-  #add(line) {
-    const last = this.#entries[this.#entries.length - 1];
-    if (last && last.text === line.text && last.tag === line.tag && last.priority === line.priority) {
-      ++last.count;
-    } else {
-      this.#entries.push({ ...line, count: 1 });
-      this.#entries.splice(0, this.#entries.length - mostEntries);
+    /** @param {import('./engine.js').Engine} engine */
+    constructor(engine) {
+        this.engine = engine;
+        this.list = find('log-lines', HTMLElement);
+        this.filter = find('log-filter', HTMLInputElement);
+        this.hidden = find('log-hidden', HTMLElement);
+        this.filter.addEventListener('input', () => this.#ask());
+        find('log-clear', HTMLButtonElement).addEventListener('click', () => {
+            this.#entries = [];
+            this.#ask();
+        });
+        engine.addEventListener('log', (event) =>
+            this.#add(/** @type {CustomEvent} */ (event).detail),
+        );
     }
-    this.#ask();
-  }
 
-  #ask() {
-    if (!this.#isWaiting) {
-      this.#isWaiting = true;
-      requestAnimationFrame(() => {
-        this.#isWaiting = false;
-        this.#show();
-      });
+    /** @param {import('./log.js').LogLine} line */
+    #add(line) {
+        const last = this.#entries[this.#entries.length - 1];
+        if (
+            last &&
+            last.text === line.text &&
+            last.tag === line.tag &&
+            last.priority === line.priority
+        ) {
+            ++last.count;
+        } else {
+            this.#entries.push({ ...line, count: 1 });
+            this.#entries.splice(0, this.#entries.length - mostEntries);
+        }
+        this.#ask();
     }
-  }
 
-  #show() {
-    const { library } = this.engine;
-    const shown = this.#entries.filter(({ priority, tag }) =>
-      library.Shows(this.filter.value, priorityOf(priority), tag),
-    );
-    this.list.replaceChildren(...shown.map((entry) => makeLine(entry, entry.count)));
-    this.list.scrollTop = this.list.scrollHeight;
-    const hidden = this.#entries.length - shown.length;
-    this.hidden.textContent = hidden === 0 ? '' : `${hidden} filtered out`;
-  }
+    #ask() {
+        if (!this.#isWaiting) {
+            this.#isWaiting = true;
+            requestAnimationFrame(() => {
+                this.#isWaiting = false;
+                this.#show();
+            });
+        }
+    }
+
+    #show() {
+        const { library } = this.engine;
+        const shown = this.#entries.filter(({ priority, tag }) =>
+            library.Shows(this.filter.value, priorityOf(priority), tag),
+        );
+        this.list.replaceChildren(...shown.map((entry) => makeLine(entry, entry.count)));
+        this.list.scrollTop = this.list.scrollHeight;
+        const hidden = this.#entries.length - shown.length;
+        this.hidden.textContent = hidden === 0 ? '' : `${hidden} filtered out`;
+    }
 }

@@ -16,12 +16,12 @@ const rise = 40;
  * @param {number} handle
  */
 export function takePicture(engine, handle) {
-  const target = engine.targets.get(handle);
-  if (!engine.isBound || !target || !isReadable(target)) {
-    return null;
-  }
-  const { width, height } = target;
-  return { width, height, data: readPixels(engine.gl, target, { x: 0, y: 0, width, height }) };
+    const target = engine.targets.get(handle);
+    if (!engine.isBound || !target || !isReadable(target)) {
+        return null;
+    }
+    const { width, height } = target;
+    return { width, height, data: readPixels(engine.gl, target, { x: 0, y: 0, width, height }) };
 }
 
 /**
@@ -32,17 +32,24 @@ export function takePicture(engine, handle) {
  * @returns {Rect | null}
  */
 function findChange(before, after) {
-  const { width, height } = before;
-  const old = new Uint32Array(before.data.buffer);
-  const now = new Uint32Array(after.data.buffer);
-  let [left, top, right, bottom] = [width, height, -1, -1];
-  for (let i = 0; i < old.length; ++i) {
-    if (old[i] !== now[i]) {
-      const [x, y] = [i % width, Math.floor(i / width)];
-      [left, top, right, bottom] = [Math.min(left, x), Math.min(top, y), Math.max(right, x), y];
+    const { width, height } = before;
+    const old = new Uint32Array(before.data.buffer);
+    const now = new Uint32Array(after.data.buffer);
+    let [left, top, right, bottom] = [width, height, -1, -1];
+    for (let i = 0; i < old.length; ++i) {
+        if (old[i] !== now[i]) {
+            const [x, y] = [i % width, Math.floor(i / width)];
+            [left, top, right, bottom] = [
+                Math.min(left, x),
+                Math.min(top, y),
+                Math.max(right, x),
+                y,
+            ];
+        }
     }
-  }
-  return right < 0 ? null : { x: left, y: top, width: right - left + 1, height: bottom - top + 1 };
+    return right < 0
+        ? null
+        : { x: left, y: top, width: right - left + 1, height: bottom - top + 1 };
 }
 
 /**
@@ -54,7 +61,7 @@ function findChange(before, after) {
  * @param {ReturnType<typeof takePicture>} [after]
  */
 export function makeBox({ width, height }, { x, y }, before, after) {
-  const change = before && after ? findChange(before, after) : null;
-  const drawn = change ? `, drawn ${change.width} × ${change.height}` : '';
-  return { x, y: y - rise, width, height, label: `reported ${width} × ${height}${drawn}` };
+    const change = before && after ? findChange(before, after) : null;
+    const drawn = change ? `, drawn ${change.width} × ${change.height}` : '';
+    return { x, y: y - rise, width, height, label: `reported ${width} × ${height}${drawn}` };
 }

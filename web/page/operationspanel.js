@@ -10,77 +10,93 @@ const groups = /** @type {const} */ (['Drawing', 'Text', 'Buffers', 'Window']);
  * Tells of "choose" when another form is shown, and of "change" and "run" of the shown one.
  */
 export class OperationsPanel extends EventTarget {
-  /** @param {import('./fields.js').Choices} choices */
-  constructor(choices) {
-    super();
-    this.choices = choices;
-    this.form = new Form(operations[0], choices);
-    /** @type {Map<string, Form>} */
-    this.forms = new Map();
-    this.panel = find('operation-panel', HTMLElement);
-    this.tabs = operations.map(({ name }) =>
-      make('button', { type: 'button', role: 'tab', id: `tab-${name}`, 'aria-controls': 'operation-panel' }, name),
-    );
-    const list = find('operation-tabs', HTMLElement);
-    for (const group of groups) {
-      const members = this.tabs.filter((_, i) => operations[i].group === group);
-      list.append(make('div', { class: 'group', role: 'presentation' }, make('span', { 'aria-hidden': 'true' }, group), ...members));
+    /** @param {import('./fields.js').Choices} choices */
+    constructor(choices) {
+        super();
+        this.choices = choices;
+        this.form = new Form(operations[0], choices);
+        /** @type {Map<string, Form>} */
+        this.forms = new Map();
+        this.panel = find('operation-panel', HTMLElement);
+        this.tabs = operations.map(({ name }) =>
+            make(
+                'button',
+                {
+                    type: 'button',
+                    role: 'tab',
+                    id: `tab-${name}`,
+                    'aria-controls': 'operation-panel',
+                },
+                name,
+            ),
+        );
+        const list = find('operation-tabs', HTMLElement);
+        for (const group of groups) {
+            const members = this.tabs.filter((_, i) => operations[i].group === group);
+            list.append(
+                make(
+                    'div',
+                    { class: 'group', role: 'presentation' },
+                    make('span', { 'aria-hidden': 'true' }, group),
+                    ...members,
+                ),
+            );
+        }
+        // In the order in which they are seen.
+        this.order = /** @type {HTMLButtonElement[]} */ ([...list.querySelectorAll('[role=tab]')]);
+        for (const tab of this.order) {
+            tab.addEventListener('click', () => this.choose(tab.textContent ?? ''));
+            tab.addEventListener('keydown', (event) => this.#move(event, tab));
+        }
+        this.choose(operations[0].name);
     }
-    // In the order in which they are seen.
-    this.order = /** @type {HTMLButtonElement[]} */ ([...list.querySelectorAll('[role=tab]')]);
-    for (const tab of this.order) {
-      tab.addEventListener('click', () => this.choose(tab.textContent ?? ''));
-      tab.addEventListener('keydown', (event) => this.#move(event, tab));
-    }
-    this.choose(operations[0].name);
-  }
 
-  /** @param {string} name */
-  choose(name) {
-    const operation = operations.find((candidate) => candidate.name === name) ?? operations[0];
-    let form = this.forms.get(operation.name);
-    if (!form) {
-      form = new Form(operation, this.choices);
-      form.addEventListener('run', () => this.dispatchEvent(new Event('run')));
-      form.addEventListener('change', () => this.dispatchEvent(new Event('change')));
-      this.forms.set(operation.name, form);
+    /** @param {string} name */
+    choose(name) {
+        const operation = operations.find((candidate) => candidate.name === name) ?? operations[0];
+        let form = this.forms.get(operation.name);
+        if (!form) {
+            form = new Form(operation, this.choices);
+            form.addEventListener('run', () => this.dispatchEvent(new Event('run')));
+            form.addEventListener('change', () => this.dispatchEvent(new Event('change')));
+            this.forms.set(operation.name, form);
+        }
+        this.form = form;
+        for (const tab of this.order) {
+            const isChosen = tab.textContent === operation.name;
+            tab.setAttribute('aria-selected', `${isChosen}`);
+            tab.tabIndex = isChosen ? 0 : -1;
+        }
+        this.panel.setAttribute('aria-labelledby', `tab-${operation.name}`);
+        this.panel.replaceChildren(form.element);
+        this.dispatchEvent(new Event('choose'));
     }
-    this.form = form;
-    for (const tab of this.order) {
-      const isChosen = tab.textContent === operation.name;
-      tab.setAttribute('aria-selected', `${isChosen}`);
-      tab.tabIndex = isChosen ? 0 : -1;
-    }
-    this.panel.setAttribute('aria-labelledby', `tab-${operation.name}`);
-    this.panel.replaceChildren(form.element);
-    this.dispatchEvent(new Event('choose'));
-  }
 
-  /** Puts the keyboard on the chosen operation. */
-  focus() {
-    this.order.find(({ tabIndex }) => tabIndex === 0)?.focus();
-  }
-
-  /**
-   * @param {KeyboardEvent} event
-   * @param {HTMLButtonElement} tab
-   */
-  #move(event, tab) {
-    const steps = /** @type {Record<string, number>} */ ({
-      ArrowRight: 1,
-      ArrowDown: 1,
-      ArrowLeft: -1,
-      ArrowUp: -1,
-      Home: -this.order.indexOf(tab),
-      End: -1 - this.order.indexOf(tab),
-    });
-    if (!(event.key in steps)) {
-      return;
+    /** Puts the keyboard on the chosen operation. */
+    focus() {
+        this.order.find(({ tabIndex }) => tabIndex === 0)?.focus();
     }
-    event.preventDefault();
-    const count = this.order.length;
-    const next = this.order[(this.order.indexOf(tab) + steps[event.key] + count) % count];
-    this.choose(next.textContent ?? '');
-    next.focus();
-  }
+
+    /**
+     * @param {KeyboardEvent} event
+     * @param {HTMLButtonElement} tab
+     */
+    #move(event, tab) {
+        const steps = /** @type {Record<string, number>} */ ({
+            ArrowRight: 1,
+            ArrowDown: 1,
+            ArrowLeft: -1,
+            ArrowUp: -1,
+            Home: -this.order.indexOf(tab),
+            End: -1 - this.order.indexOf(tab),
+        });
+        if (!(event.key in steps)) {
+            return;
+        }
+        event.preventDefault();
+        const count = this.order.length;
+        const next = this.order[(this.order.indexOf(tab) + steps[event.key] + count) % count];
+        this.choose(next.textContent ?? '');
+        next.focus();
+    }
 }

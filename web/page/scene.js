@@ -4,15 +4,15 @@
 
 /** The scene's buffers, in the order in which it creates them. */
 const bufferNames = [
-  'sky, as cells',
-  'list',
-  'next row',
-  'highlight',
-  'chosen row',
-  'scrollbar',
-  'frosted picture',
-  'all that rests',
-  'frame',
+    'sky, as cells',
+    'list',
+    'next row',
+    'highlight',
+    'chosen row',
+    'scrollbar',
+    'frosted picture',
+    'all that rests',
+    'frame',
 ];
 
 const shownMinute = 32; // 21:47 by the scene's clock
@@ -21,112 +21,112 @@ const minutesPerFrame = 1 / 60; // a minute in a second
 
 /** Tells of "state" when it starts or stops to play. */
 export class Player extends EventTarget {
-  /**
-   * The names of the scene's buffers, by handle.
-   *
-   * @type {Map<number, string>}
-   */
-  names = new Map();
+    /**
+     * The names of the scene's buffers, by handle.
+     *
+     * @type {Map<number, string>}
+     */
+    names = new Map();
 
-  isPlaying = false;
+    isPlaying = false;
 
-  /** @type {import('./libzogles.mjs').DemoScene | null} */
-  #scene = null;
+    /** @type {import('./libzogles.mjs').DemoScene | null} */
+    #scene = null;
 
-  #minute = shownMinute;
+    #minute = shownMinute;
 
-  /**
-   * @param {Engine} engine
-   * @param {string} fontPath what the scene is written in
-   */
-  constructor(engine, fontPath) {
-    super();
-    this.engine = engine;
-    this.fontPath = fontPath;
-    engine.addEventListener('binding', () => engine.isBound || this.pause());
-  }
-
-  /** False once the scene cannot be drawn any more, as when a buffer of its was destroyed. */
-  get isGood() {
-    return this.#scene?.IsGood() ?? false;
-  }
-
-  get isReady() {
-    return this.isGood && this.engine.isBound;
-  }
-
-  /**
-   * Creates the scene anew, and shows its first frame.
-   *
-   * @returns {boolean} whether that went well
-   */
-  restart() {
-    this.#scene?.delete();
-    for (const handle of this.names.keys()) {
-      if (this.engine.targets.has(handle)) {
-        this.engine.surface.ZoDestoryGLFBO(handle);
-      }
+    /**
+     * @param {Engine} engine
+     * @param {string} fontPath what the scene is written in
+     */
+    constructor(engine, fontPath) {
+        super();
+        this.engine = engine;
+        this.fontPath = fontPath;
+        engine.addEventListener('binding', () => engine.isBound || this.pause());
     }
-    this.names.clear();
-    this.engine.updateTargets();
-    const before = new Set(this.engine.targets.keys());
-    this.#scene = new this.engine.library.DemoScene(this.engine.surface);
-    this.#scene.CreateBuffers();
-    this.engine.updateTargets();
-    const own = [...this.engine.targets.keys()].filter((handle) => !before.has(handle));
-    own.forEach((handle, i) => this.names.set(handle, bufferNames[i]));
-    return this.repaint();
-  }
 
-  /** Fills the scene's buffers, as after a loss, and shows its first frame. */
-  repaint() {
-    if (!this.isGood) {
-      return false;
+    /** False once the scene cannot be drawn any more, as when a buffer of its was destroyed. */
+    get isGood() {
+        return this.#scene?.IsGood() ?? false;
     }
-    this.#scene?.Paint(this.fontPath);
-    this.#minute = shownMinute;
-    this.drawFrame();
-    return this.isGood;
-  }
 
-  play() {
-    if (this.isPlaying || !this.isReady) {
-      return;
+    get isReady() {
+        return this.isGood && this.engine.isBound;
     }
-    this.#setPlaying(true);
-    const step = () => {
-      if (!this.isPlaying) {
-        return;
-      }
-      this.#scene?.Scroll();
-      this.#minute = this.#minute > lastMinute ? 0 : this.#minute + minutesPerFrame;
-      this.drawFrame();
-      if (this.isReady) {
+
+    /**
+     * Creates the scene anew, and shows its first frame.
+     *
+     * @returns {boolean} whether that went well
+     */
+    restart() {
+        this.#scene?.delete();
+        for (const handle of this.names.keys()) {
+            if (this.engine.targets.has(handle)) {
+                this.engine.surface.ZoDestoryGLFBO(handle);
+            }
+        }
+        this.names.clear();
+        this.engine.updateTargets();
+        const before = new Set(this.engine.targets.keys());
+        this.#scene = new this.engine.library.DemoScene(this.engine.surface);
+        this.#scene.CreateBuffers();
+        this.engine.updateTargets();
+        const own = [...this.engine.targets.keys()].filter((handle) => !before.has(handle));
+        own.forEach((handle, i) => this.names.set(handle, bufferNames[i]));
+        return this.repaint();
+    }
+
+    /** Fills the scene's buffers, as after a loss, and shows its first frame. */
+    repaint() {
+        if (!this.isGood) {
+            return false;
+        }
+        this.#scene?.Paint(this.fontPath);
+        this.#minute = shownMinute;
+        this.drawFrame();
+        return this.isGood;
+    }
+
+    play() {
+        if (this.isPlaying || !this.isReady) {
+            return;
+        }
+        this.#setPlaying(true);
+        const step = () => {
+            if (!this.isPlaying) {
+                return;
+            }
+            this.#scene?.Scroll();
+            this.#minute = this.#minute > lastMinute ? 0 : this.#minute + minutesPerFrame;
+            this.drawFrame();
+            if (this.isReady) {
+                requestAnimationFrame(step);
+            } else {
+                this.pause();
+            }
+        };
         requestAnimationFrame(step);
-      } else {
-        this.pause();
-      }
-    };
-    requestAnimationFrame(step);
-  }
+    }
 
-  pause() {
-    this.#setPlaying(false);
-  }
+    pause() {
+        this.#setPlaying(false);
+    }
 
-  /** @param {boolean} isPlaying */
-  #setPlaying(isPlaying) {
-    this.isPlaying = isPlaying;
-    this.dispatchEvent(new Event('state'));
-  }
+    /** @param {boolean} isPlaying */
+    #setPlaying(isPlaying) {
+        this.isPlaying = isPlaying;
+        this.dispatchEvent(new Event('state'));
+    }
 
-  drawFrame() {
-    const { engine } = this;
-    this.#scene?.DrawFrame(this.#minute);
-    const [frame] = [...this.names.keys()].slice(-1);
-    const { width, height } = engine.canvas;
-    const all = { x: 0, y: 0, width, height };
-    engine.presentation = { handle: frame, source: all, destination: all };
-    engine.tellDrawn();
-  }
+    drawFrame() {
+        const { engine } = this;
+        this.#scene?.DrawFrame(this.#minute);
+        const [frame] = [...this.names.keys()].slice(-1);
+        const { width, height } = engine.canvas;
+        const all = { x: 0, y: 0, width, height };
+        engine.presentation = { handle: frame, source: all, destination: all };
+        engine.tellDrawn();
+    }
 }

@@ -28,27 +28,27 @@ const nothing = { r: 0, g: 0, b: 0, a: 0 };
  * @returns {Target | null}
  */
 export function findTarget(gl, surface, handle) {
-  /** @type {Target} */
-  const target = { framebuffer: null, width: 0, height: 0, isComplete: false };
-  const { bindFramebuffer, viewport, drawArrays } = gl;
-  gl.bindFramebuffer = (kind, framebuffer) => {
-    target.framebuffer = framebuffer ?? target.framebuffer;
-    bindFramebuffer.call(gl, kind, framebuffer);
-  };
-  gl.viewport = (x, y, width, height) => {
-    Object.assign(target, { width: width >>> 0, height: height >>> 0 });
-    viewport.call(gl, x, y, width, height);
-  };
-  gl.drawArrays = () => {};
-  const code = surface.ZoDrawRect(handle, nowhere, nothing);
-  Object.assign(gl, { bindFramebuffer, viewport, drawArrays });
-  if (code !== 0) {
-    return null;
-  }
-  gl.bindFramebuffer(gl.FRAMEBUFFER, target.framebuffer);
-  target.isComplete = gl.checkFramebufferStatus(gl.FRAMEBUFFER) === gl.FRAMEBUFFER_COMPLETE;
-  gl.bindFramebuffer(gl.FRAMEBUFFER, null);
-  return target;
+    /** @type {Target} */
+    const target = { framebuffer: null, width: 0, height: 0, isComplete: false };
+    const { bindFramebuffer, viewport, drawArrays } = gl;
+    gl.bindFramebuffer = (kind, framebuffer) => {
+        target.framebuffer = framebuffer ?? target.framebuffer;
+        bindFramebuffer.call(gl, kind, framebuffer);
+    };
+    gl.viewport = (x, y, width, height) => {
+        Object.assign(target, { width: width >>> 0, height: height >>> 0 });
+        viewport.call(gl, x, y, width, height);
+    };
+    gl.drawArrays = () => {};
+    const code = surface.ZoDrawRect(handle, nowhere, nothing);
+    Object.assign(gl, { bindFramebuffer, viewport, drawArrays });
+    if (code !== 0) {
+        return null;
+    }
+    gl.bindFramebuffer(gl.FRAMEBUFFER, target.framebuffer);
+    target.isComplete = gl.checkFramebufferStatus(gl.FRAMEBUFFER) === gl.FRAMEBUFFER_COMPLETE;
+    gl.bindFramebuffer(gl.FRAMEBUFFER, null);
+    return target;
 }
 
 /**
@@ -59,16 +59,16 @@ export function findTarget(gl, surface, handle) {
  * @param {Rect} rect
  */
 export function readPixels(gl, target, { x, y, width, height }) {
-  const rows = new Uint8Array(width * height * 4);
-  gl.bindFramebuffer(gl.FRAMEBUFFER, target.framebuffer);
-  gl.readPixels(x, target.height - y - height, width, height, gl.RGBA, gl.UNSIGNED_BYTE, rows);
-  gl.bindFramebuffer(gl.FRAMEBUFFER, null);
-  const pixels = new Uint8ClampedArray(rows.length);
-  for (let row = 0; row < height; ++row) {
-    const start = (height - 1 - row) * width * 4;
-    pixels.set(rows.subarray(start, start + width * 4), row * width * 4);
-  }
-  return pixels;
+    const rows = new Uint8Array(width * height * 4);
+    gl.bindFramebuffer(gl.FRAMEBUFFER, target.framebuffer);
+    gl.readPixels(x, target.height - y - height, width, height, gl.RGBA, gl.UNSIGNED_BYTE, rows);
+    gl.bindFramebuffer(gl.FRAMEBUFFER, null);
+    const pixels = new Uint8ClampedArray(rows.length);
+    for (let row = 0; row < height; ++row) {
+        const start = (height - 1 - row) * width * 4;
+        pixels.set(rows.subarray(start, start + width * 4), row * width * 4);
+    }
+    return pixels;
 }
 
 /**
@@ -79,12 +79,12 @@ export function readPixels(gl, target, { x, y, width, height }) {
  * @param {HTMLCanvasElement} canvas
  */
 export function copyToCanvas(gl, target, canvas) {
-  const { width, height } = target;
-  if (canvas.width !== width || canvas.height !== height) {
-    Object.assign(canvas, { width, height });
-  }
-  const pixels = readPixels(gl, target, { x: 0, y: 0, width, height });
-  canvas.getContext('2d')?.putImageData(new ImageData(pixels, width, height), 0, 0);
+    const { width, height } = target;
+    if (canvas.width !== width || canvas.height !== height) {
+        Object.assign(canvas, { width, height });
+    }
+    const pixels = readPixels(gl, target, { x: 0, y: 0, width, height });
+    canvas.getContext('2d')?.putImageData(new ImageData(pixels, width, height), 0, 0);
 }
 
 /**
@@ -93,10 +93,10 @@ export function copyToCanvas(gl, target, canvas) {
  * @param {Target} target
  */
 export function isReadable({ isComplete, width, height }) {
-  return isComplete && width * height <= 4096 * 4096;
+    return isComplete && width * height <= 4096 * 4096;
 }
 
 /** @param {number} handle */
 export function formatHandle(handle) {
-  return `0x${handle.toString(16).toUpperCase()}`;
+    return `0x${handle.toString(16).toUpperCase()}`;
 }
