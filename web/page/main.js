@@ -58,6 +58,9 @@ function wirePlayer(player) {
     const show = () => {
         button.textContent = player.isPlaying ? 'Pause' : 'Play';
         button.disabled = !player.engine.isBound;
+        if (player.engine.isBound && !player.isGood) {
+            notice('The scene has stopped: what it draws with is gone. Play makes it anew.');
+        }
     };
     button.addEventListener('click', () => {
         if (player.isPlaying) {

@@ -80,7 +80,7 @@ export class Player extends EventTarget {
 
     /** Fills the scene's buffers, as after a loss, and shows its first frame. */
     repaint() {
-        if (!this.isGood) {
+        if (!this.isReady) {
             return false;
         }
         this.#scene?.Paint(this.fontPath);
