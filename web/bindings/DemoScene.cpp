@@ -19,11 +19,13 @@ public:
     /// Creates the scene's buffers, once: their handles hold beyond a loss of the window.
     void CreateBuffers() { scene.CreateBuffers(); }
 
-    /// Loads a font and paints everything that rests.
-    void Paint(const std::string& fontPath) {
-        canvas.LoadFont(fontPath, static_cast<unsigned int>(layout.standardText));
-        scene.Paint();
+    /// Loads a font at the size that the scene is laid out for.
+    void LoadFont(const std::string& path) {
+        canvas.LoadFont(path, static_cast<unsigned int>(layout.standardText));
     }
+
+    /// Paints everything that rests, in the font that is loaded.
+    void Paint() { scene.Paint(); }
 
     void Scroll() { scene.ScrollMenu(layout.Scale(scrollStep)); }
 
@@ -50,6 +52,7 @@ EMSCRIPTEN_BINDINGS(scene) {
     emscripten::class_<DemoScene>("DemoScene")
         .constructor<ZoGLDrawSurface&>()
         .function("CreateBuffers", &DemoScene::CreateBuffers)
+        .function("LoadFont", &DemoScene::LoadFont)
         .function("Paint", &DemoScene::Paint)
         .function("Scroll", &DemoScene::Scroll)
         .function("DrawFrame", &DemoScene::DrawFrame)

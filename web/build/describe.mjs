@@ -5,7 +5,11 @@ import { readFileSync } from 'node:fs';
 
 const [header, guide] = process.argv.slice(2).map((path) => readFileSync(path, 'utf8'));
 
-/** The prose of a comment: no markers, no line breaks within a paragraph. */
+/**
+ * The prose of a comment: no markers, no line breaks within a paragraph.
+ *
+ * @param {string} comment
+ */
 function toProse(comment) {
     return comment
         .replace(/^\s*\/\/\/<? ?/gm, '')
@@ -15,6 +19,7 @@ function toProse(comment) {
 }
 
 function describeResults() {
+    /** @type {Record<string, { name: string, meaning: string, advice: string }>} */
     const results = {};
     for (const [, name, code, meaning] of header.matchAll(
         /^ +(ZO_\w+) = (\d+), +\/\/\/< (.*)$/gm,
@@ -31,6 +36,7 @@ function describeResults() {
 
 /** The first paragraph of what the header says of each operation. */
 function describeOperations() {
+    /** @type {Record<string, string>} */
     const operations = {};
     const declaration = /((?:^ +\/\/\/.*\n)+) +(?:unsigned )?(?:int|void) (Zo\w+|Init)\(/gm;
     for (const [, comment, name] of header.matchAll(declaration)) {

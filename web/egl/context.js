@@ -32,14 +32,15 @@ mergeInto(LibraryManager.library, {
             GL.deleteContext = function (handle) {
                 var context = GL.contexts[handle];
                 if (context) {
-                    Contexts.deleteObjects(context.GLctx);
+                    Contexts.deleteObjects(context);
                 }
                 deleteContext(handle);
             };
             GLctx = Contexts.none;
         },
 
-        deleteObjects: function (gl) {
+        deleteObjects: function (context) {
+            var gl = context.GLctx;
             var remove = function (names, deleteOne) {
                 for (var i = 0; i < names.length; ++i) {
                     if (names[i]) {
@@ -53,6 +54,7 @@ mergeInto(LibraryManager.library, {
             remove(GL.buffers, gl.deleteBuffer);
             remove(GL.programs, gl.deleteProgram);
             remove(GL.shaders, gl.deleteShader);
+            remove(context.tempIndexBuffers, gl.deleteBuffer); // where client memory's indices went
         },
     },
 

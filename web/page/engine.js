@@ -175,7 +175,7 @@ export class Engine extends EventTarget {
             }
         });
         this.canvas.addEventListener('webglcontextrestored', () => this.#tell('restored'));
-        this.place.append(this.canvas);
+        this.place.prepend(this.canvas);
     }
 
     /** @param {number} code */

@@ -11,6 +11,7 @@ import { formatHandle, noHandle, windowHandle } from './targets.js';
  * @property {HTMLElement} element
  * @property {() => any} read
  * @property {(value: any) => void} write
+ * @property {() => void} [refresh] lists anew what there is to choose from
  */
 
 /**
@@ -87,7 +88,7 @@ function makeRow({ label, hint }, control) {
 
 /**
  * @param {Field} field
- * @param {() => [string, string][]} options values and labels, looked up when the list opens
+ * @param {(chosen: string) => [string, string][]} options values and labels
  * @param {(value: string) => any} parse
  */
 function makeSelect(field, options, parse) {
@@ -95,7 +96,7 @@ function makeSelect(field, options, parse) {
     /** @param {string} value */
     const fill = (value) => {
         select.replaceChildren(
-            ...options().map(([value, label]) => make('option', { value }, label)),
+            ...options(value).map(([value, label]) => make('option', { value }, label)),
         );
         select.value = value;
         if (select.selectedIndex < 0) {
@@ -103,11 +104,11 @@ function makeSelect(field, options, parse) {
         }
     };
     fill(`${field.value}`);
-    select.addEventListener('focus', () => fill(select.value));
     return {
         element: makeRow(field, select),
         read: () => parse(select.value),
         write: (/** @type {any} */ value) => fill(`${value}`),
+        refresh: () => fill(select.value),
     };
 }
 
@@ -198,32 +199,24 @@ const makers = {
         };
     },
 
-    // Handles that name nothing are there to be tried, too.
+    // Handles that name nothing are there to be tried, too; one whose buffer is gone stays chosen.
     handle: (field, choices) =>
         makeSelect(
             field,
-            () => {
-                const live = choices.targets();
+            (chosen) => {
                 const unused = windowHandle | 0x10;
-                return [
-                    ...live.map(
-                        ({ handle, name }) =>
-                            /** @type {[string, string]} */ ([
-                                `${handle}`,
-                                `${formatHandle(handle)} ${name}`,
-                            ]),
-                    ),
-                    ...(live.some(({ handle }) => handle === field.value)
-                        ? []
-                        : [
-                              /** @type {[string, string]} */ ([
-                                  `${field.value}`,
-                                  `${formatHandle(field.value)} no buffer now`,
-                              ]),
-                          ]),
-                    [`${unused}`, `${formatHandle(unused)} names no buffer`],
-                    [`${noHandle}`, 'ZO_NO_HANDLE'],
-                ];
+                const live = choices.targets();
+                /** @type {[number, string][]} */
+                const options = live.map(({ handle, name }) => [
+                    handle,
+                    `${formatHandle(handle)} ${name}`,
+                ]);
+                options.push([unused, `${formatHandle(unused)} names no buffer`]);
+                options.push([noHandle, 'ZO_NO_HANDLE']);
+                if (!options.some(([handle]) => `${handle}` === chosen)) {
+                    options.push([Number(chosen), `${formatHandle(Number(chosen))} no buffer now`]);
+                }
+                return options.map(([handle, label]) => [`${handle}`, label]);
             },
             Number,
         ),

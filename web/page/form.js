@@ -87,6 +87,12 @@ export class Form extends EventTarget {
         this.#update();
     }
 
+    /** Lists anew what there is to choose from. */
+    refresh() {
+        Object.values(this.#widgets).forEach((widget) => widget.refresh?.());
+        this.#update();
+    }
+
     /**
      * @param {Outcome} outcome
      * @param {import('./log.js').LogLine[]} lines what it logged

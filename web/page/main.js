@@ -98,7 +98,8 @@ function wireFiles(engine, player, files, { panel }) {
     files.addEventListener('font', (event) => {
         const { path, code } = /** @type {CustomEvent} */ (event).detail;
         player.fontPath = code === 0 ? path : ownFont;
-        engine.withoutLog(() => player.repaint());
+        engine.withoutLog(() => (code === 0 ? player.rewrite() : player.repaint()));
+        panel.form.refresh();
     });
     files.addEventListener('picture', (event) => {
         const name = /** @type {CustomEvent} */ (event).detail;

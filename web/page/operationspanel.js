@@ -14,9 +14,9 @@ export class OperationsPanel extends EventTarget {
     constructor(choices) {
         super();
         this.choices = choices;
-        this.form = new Form(operations[0], choices);
         /** @type {Map<string, Form>} */
         this.forms = new Map();
+        this.form = this.#formOf(operations[0]);
         this.panel = find('operation-panel', HTMLElement);
         this.tabs = operations.map(({ name }) =>
             make(
@@ -54,22 +54,33 @@ export class OperationsPanel extends EventTarget {
     /** @param {string} name */
     choose(name) {
         const operation = operations.find((candidate) => candidate.name === name) ?? operations[0];
-        let form = this.forms.get(operation.name);
-        if (!form) {
-            form = new Form(operation, this.choices);
-            form.addEventListener('run', () => this.dispatchEvent(new Event('run')));
-            form.addEventListener('change', () => this.dispatchEvent(new Event('change')));
-            this.forms.set(operation.name, form);
-        }
-        this.form = form;
+        this.form = this.#formOf(operation);
+        this.form.refresh();
         for (const tab of this.order) {
             const isChosen = tab.textContent === operation.name;
             tab.setAttribute('aria-selected', `${isChosen}`);
             tab.tabIndex = isChosen ? 0 : -1;
         }
         this.panel.setAttribute('aria-labelledby', `tab-${operation.name}`);
-        this.panel.replaceChildren(form.element);
+        this.panel.replaceChildren(this.form.element);
         this.dispatchEvent(new Event('choose'));
+    }
+
+    /**
+     * A form keeps what was filled in while others are shown.
+     *
+     * @param {import('./operations.js').Operation} operation
+     */
+    #formOf(operation) {
+        const known = this.forms.get(operation.name);
+        if (known) {
+            return known;
+        }
+        const form = new Form(operation, this.choices);
+        form.addEventListener('run', () => this.dispatchEvent(new Event('run')));
+        form.addEventListener('change', () => this.dispatchEvent(new Event('change')));
+        this.forms.set(operation.name, form);
+        return form;
     }
 
     /** Puts the keyboard on the chosen operation. */

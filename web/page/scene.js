@@ -78,12 +78,20 @@ export class Player extends EventTarget {
         return this.repaint();
     }
 
-    /** Fills the scene's buffers, as after a loss, and shows its first frame. */
+    /** Loads the scene's font and fills its buffers, as after a loss, and shows its first frame. */
     repaint() {
+        if (this.isReady) {
+            this.#scene?.LoadFont(this.fontPath);
+        }
+        return this.rewrite();
+    }
+
+    /** Fills the scene's buffers in the font that is loaded, and shows its first frame. */
+    rewrite() {
         if (!this.isReady) {
             return false;
         }
-        this.#scene?.Paint(this.fontPath);
+        this.#scene?.Paint();
         this.#minute = shownMinute;
         this.drawFrame();
         return this.isGood;

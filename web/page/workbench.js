@@ -35,6 +35,7 @@ export class Workbench {
         table.addEventListener('destroy', (event) =>
             this.#destroy(/** @type {CustomEvent} */ (event).detail),
         );
+        engine.addEventListener('targets', () => panel.form.refresh());
         this.#mark();
     }
 

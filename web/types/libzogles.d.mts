@@ -58,7 +58,8 @@ export interface Surface {
 
 export interface DemoScene {
     CreateBuffers(): void;
-    Paint(fontPath: string): void;
+    LoadFont(path: string): void;
+    Paint(): void;
     Scroll(): void;
     DrawFrame(minutes: number): void;
     IsGood(): boolean;
