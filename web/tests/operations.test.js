@@ -100,6 +100,8 @@ test('buffers and the window', async () => {
     assert.match(await playground.run('ZoDestoryGLWindowSurface'), /^It returns nothing/);
     assert.match(await playground.run('ZoCreateGLWindowSurface'), success);
     await playground.waitForBuffers('9 of 15');
+    const again = await playground.run('ZoCreateGLFBO', { width: 640, height: 360 });
+    assert.match(again, /handle 0x1000A/);
 });
 
 test('marks on the picture can be dragged, and the fields follow', async () => {
