@@ -48,8 +48,7 @@ struct BitmapFields {
 tagZoTextInfo ToRecord(const TextFields& fields) {
     tagZoTextInfo info = {};
     info.text = fields.text.c_str();
-    info.length =
-        static_cast<unsigned int>(std::min<size_t>(fields.length, fields.text.size()));
+    info.length = static_cast<unsigned int>(std::min<size_t>(fields.length, fields.text.size()));
     info.color = fields.color;
     info.fontSize = fields.fontSize;
     info.bold = fields.bold ? 1 : 0;
@@ -87,8 +86,8 @@ int DisplayBuffer(ZoGLDrawSurface& surface, unsigned int fbo, const tagZoRectInf
 
 int DisplayBitmap(ZoGLDrawSurface& surface, const BitmapFields& fields) {
     tagZoBitmapInfo info = {};
-    info.data = fields.data.empty() ? nullptr
-                                    : reinterpret_cast<const unsigned char*>(fields.data.data());
+    info.data =
+        fields.data.empty() ? nullptr : reinterpret_cast<const unsigned char*>(fields.data.data());
     info.format = fields.format;
     info.width = fields.width;
     info.height = fields.height;

@@ -35,7 +35,7 @@ export class BuffersTable extends EventTarget {
         const handles = [...this.engine.targets.keys()].filter((handle) => handle !== windowHandle);
         const state = this.engine.isBound ? 'in use' : 'remembered until a window is bound';
         this.count.textContent = `${handles.length} of ${mostBuffers} ${state}`;
-        this.#miniatures.clear();
+        this.#forgetMiniatures(handles);
         this.body.replaceChildren(...handles.map((handle) => this.#makeRow(handle)));
     }
 
@@ -64,18 +64,33 @@ export class BuffersTable extends EventTarget {
         );
     }
 
+    /** @param {number[]} handles those that are still there */
+    #forgetMiniatures(handles) {
+        for (const handle of this.#miniatures.keys()) {
+            if (!handles.includes(handle)) {
+                this.#miniatures.delete(handle);
+            }
+        }
+    }
+
     /**
+     * A miniature stays what it is while others come and go.
+     *
      * @param {number} handle
      * @param {import('./targets.js').Target} target
      */
     #makeMiniature(handle, { width, height }) {
         const scale = Math.min(mostWidth / width, mostHeight / height, 1);
-        const miniature = make('canvas', {
-            role: 'img',
-            'aria-label': `What ${formatHandle(handle)} holds`,
+        const size = {
             width: Math.max(1, Math.round(width * scale)),
             height: Math.max(1, Math.round(height * scale)),
-        });
+        };
+        const known = this.#miniatures.get(handle);
+        if (known?.width === size.width && known.height === size.height) {
+            return known;
+        }
+        const label = `What ${formatHandle(handle)} holds`;
+        const miniature = make('canvas', { role: 'img', 'aria-label': label, ...size });
         this.#miniatures.set(handle, miniature);
         return miniature;
     }
