@@ -53,15 +53,24 @@ function findChange(before, after) {
 }
 
 /**
- * The box of a text with the pen at (x, y), and what to say of it.
+ * Where the reported size lies, with the pen at (x, y).
+ *
+ * @param {{ width: number, height: number }} size
+ * @param {{ x: number, y: number }} pen
+ */
+export function placeBox({ width, height }, { x, y }) {
+    return { x, y: y - rise, width, height, label: `${width} × ${height}` };
+}
+
+/**
+ * What to say of a text that was drawn.
  *
  * @param {{ width: number, height: number }} size as reported
- * @param {{ x: number, y: number }} pen
- * @param {ReturnType<typeof takePicture>} [before]
- * @param {ReturnType<typeof takePicture>} [after]
+ * @param {NonNullable<ReturnType<typeof takePicture>>} before the target before
+ * @param {NonNullable<ReturnType<typeof takePicture>>} after the target after
  */
-export function makeBox({ width, height }, { x, y }, before, after) {
-    const change = before && after ? findChange(before, after) : null;
-    const drawn = change ? `, drawn ${change.width} × ${change.height}` : '';
-    return { x, y: y - rise, width, height, label: `reported ${width} × ${height}${drawn}` };
+export function compareSizes({ width, height }, before, after) {
+    const change = findChange(before, after);
+    const marks = change ? `marks of ${change.width} × ${change.height}` : 'no mark';
+    return `ZoGetTextSize reports ${width} × ${height}; it left ${marks}.`;
 }

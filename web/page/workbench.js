@@ -2,7 +2,7 @@
 // the form's operation did.
 
 import { notice } from './dom.js';
-import { makeBox, takePicture } from './measure.js';
+import { compareSizes, placeBox, takePicture } from './measure.js';
 import { ownHandle } from './operations.js';
 import { windowHandle } from './targets.js';
 
@@ -110,11 +110,11 @@ export class Workbench {
         }
         const before = operation.name === 'ZoDrawText' ? takePicture(engine, values.handle) : null;
         const { outcome, lines } = this.#call();
-        panel.form.show(outcome, lines);
         engine.updateTargets();
         this.#view(handle);
         stage.refresh();
         this.#showBox(outcome, before);
+        panel.form.show(outcome, lines);
         this.table.draw(stage.handle);
         engine.tellDrawn();
     }
@@ -137,18 +137,21 @@ export class Workbench {
     /**
      * Shows the size that the library reports of a text, over what was drawn.
      *
-     * @param {import('./operations.js').Outcome} outcome
+     * @param {import('./operations.js').Outcome} outcome gets a note of it
      * @param {ReturnType<typeof takePicture>} before the target before it was drawn, if it was
      */
     #showBox(outcome, before) {
-        const { engine, stage, panel } = this;
+        const { engine, stage } = this;
         if (outcome.box) {
-            stage.setBox({ handle: this.#pen.handle, ...makeBox(outcome.box, this.#pen.rect) });
-        } else if (before && outcome.code === 0) {
-            const { values } = panel.form;
+            stage.setBox({ handle: this.#pen.handle, ...placeBox(outcome.box, this.#pen.rect) });
+            return;
+        }
+        const { values } = this.panel.form;
+        const after = before && outcome.code === 0 ? takePicture(engine, values.handle) : null;
+        if (before && after) {
             const size = engine.withoutLog(() => engine.surface.ZoGetTextSize(values));
-            const after = takePicture(engine, values.handle);
-            stage.setBox({ handle: values.handle, ...makeBox(size, values.rect, before, after) });
+            stage.setBox({ handle: values.handle, ...placeBox(size, values.rect) });
+            outcome.note = compareSizes(size, before, after);
         }
     }
 

@@ -70,8 +70,9 @@ test('bitmaps, text and measuring', async () => {
     const result = await playground.run('ZoDrawText', { text: 'A B' });
     assert.match(result, success);
     assert.match(result, /OSDText\s+Char 32 is not exit/);
-    const label = await page.locator('#viewport svg text').last().textContent();
-    assert.match(label ?? '', new RegExp(`reported ${told[2]} × 50, drawn \\d+ × \\d+`));
+    assert.match(result, new RegExp(`reports ${told[2]} × 50; it left marks of \\d+ × \\d+`));
+    const label = page.locator('#viewport svg text').last();
+    assert.equal(await label.textContent(), `${told[2]} × 50`);
     await playground.picture('text');
     const styled = { text: 'Styled', fontSize: 64, bold: true, italic: true };
     assert.match(await playground.run('ZoDrawText', styled), success);
