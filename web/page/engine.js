@@ -167,15 +167,21 @@ export class Engine extends EventTarget {
         return targets;
     }
 
+    // A window that was destroyed may lose its context later on, which is nobody's affair any more.
     #place() {
-        this.canvas.addEventListener('webglcontextlost', (event) => {
+        const { canvas } = this;
+        canvas.addEventListener('webglcontextlost', (event) => {
             event.preventDefault(); // or the browser never gives it back
-            if (this.isBound) {
+            if (this.isBound && canvas === this.canvas) {
                 this.letGo();
             }
         });
-        this.canvas.addEventListener('webglcontextrestored', () => this.#tell('restored'));
-        this.place.prepend(this.canvas);
+        canvas.addEventListener('webglcontextrestored', () => {
+            if (canvas === this.canvas) {
+                this.#tell('restored');
+            }
+        });
+        this.place.prepend(canvas);
     }
 
     /** @param {number} code */

@@ -134,6 +134,9 @@ const makers = {
         const numbers = makeNumbers(label, value, 255);
         const picker = make('input', { type: 'color', 'aria-label': `${label}, picked` });
         const show = () => {
+            if (Object.values(numbers.inputs).some(({ validity }) => !validity.valid)) {
+                return; // the picker knows no such colour
+            }
             const { r, g, b } = numbers.read();
             // As bright as the library takes it: 1 is full intensity.
             const digits = [r, g, b].map((channel) => (channel === 1 ? 255 : channel).toString(16));

@@ -98,7 +98,12 @@ function wireFiles(engine, player, files, { panel }) {
     files.addEventListener('font', (event) => {
         const { path, code } = /** @type {CustomEvent} */ (event).detail;
         player.fontPath = code === 0 ? path : ownFont;
-        engine.withoutLog(() => (code === 0 ? player.rewrite() : player.repaint()));
+        engine.withoutLog(() => {
+            if (code !== 0) {
+                engine.surface.ZoLoadFont(ownFont, 40);
+            }
+            player.rewrite();
+        });
         panel.form.refresh();
     });
     files.addEventListener('picture', (event) => {
