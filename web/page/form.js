@@ -44,9 +44,13 @@ export class Form extends EventTarget {
         });
         const copy = make('button', { type: 'button', class: 'quiet' }, 'Copy the C++');
         copy.addEventListener('click', async () => {
-            await navigator.clipboard.writeText(this.#code.textContent ?? '');
-            copy.textContent = 'Copied';
-            setTimeout(() => (copy.textContent = 'Copy the C++'), 1500);
+            if (navigator.clipboard) {
+                await navigator.clipboard.writeText(this.#code.textContent ?? '');
+                copy.textContent = 'Copied';
+                setTimeout(() => (copy.textContent = 'Copy the C++'), 1500);
+            } else {
+                getSelection()?.selectAllChildren(this.#code); // pages without TLS have no clipboard
+            }
         });
         this.element = make(
             'form',
