@@ -60,10 +60,12 @@ std::uint64_t Hash(std::uint64_t hash, const char* text) {
     return hash;
 }
 
-// A coarse clock is read without a system call.
+// A coarse clock is read without a system call, where there is one: Emscripten, for one, refuses it.
 std::int64_t Milliseconds() {
     timespec time = {};
-    clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+    if (clock_gettime(CLOCK_MONOTONIC_COARSE, &time) != 0) {
+        clock_gettime(CLOCK_MONOTONIC, &time);
+    }
     return std::int64_t{time.tv_sec} * 1000 + time.tv_nsec / 1000000;
 }
 
