@@ -3,7 +3,7 @@
 import { make } from './dom.js';
 import { makeField } from './fields.js';
 import { operationNotes, results } from './library.js';
-import { makeLine } from './logpanel.js';
+import { makeLine } from './log-panel.js';
 
 /** @typedef {import('./operations.js').Operation} Operation */
 /** @typedef {import('./operations.js').Outcome} Outcome */

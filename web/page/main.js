@@ -1,14 +1,14 @@
 // The page: starts the library and the scene, and ties the page's parts together.
 
-import { BuffersTable } from './bufferstable.js';
+import { BuffersTable } from './buffers-table.js';
 import { find, notice } from './dom.js';
 import { Engine } from './engine.js';
 import { Files, ownFont } from './files.js';
-import { LogPanel } from './logpanel.js';
+import { LogPanel } from './log-panel.js';
 import { Losses } from './losses.js';
 import { Magnifier } from './magnifier.js';
 import { ownHandle, ownSize } from './operations.js';
-import { OperationsPanel } from './operationspanel.js';
+import { OperationsPanel } from './operations-panel.js';
 import { Player } from './scene.js';
 import { Stage } from './stage.js';
 import { windowHandle } from './targets.js';

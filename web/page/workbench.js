@@ -15,8 +15,8 @@ export class Workbench {
      * @param {import('./scene.js').Player} player
      * @param {object} panels
      * @param {import('./stage.js').Stage} panels.stage
-     * @param {import('./operationspanel.js').OperationsPanel} panels.panel
-     * @param {import('./bufferstable.js').BuffersTable} panels.table
+     * @param {import('./operations-panel.js').OperationsPanel} panels.panel
+     * @param {import('./buffers-table.js').BuffersTable} panels.table
      */
     constructor(engine, player, { stage, panel, table }) {
         this.engine = engine;
