@@ -130,7 +130,7 @@ export class Files extends EventTarget {
         if (code !== 0) {
             return [
                 results[code].advice,
-                'The font before it is gone then; the page has loaded its own again.',
+                'The font before it is gone then; the page has loaded that one again.',
             ];
         }
         const { engine } = this;

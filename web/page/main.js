@@ -97,12 +97,13 @@ function startScene(player) {
 function wireFiles(engine, player, files, { panel }) {
     files.addEventListener('font', (event) => {
         const { path, code } = /** @type {CustomEvent} */ (event).detail;
-        player.fontPath = code === 0 ? path : ownFont;
         engine.withoutLog(() => {
-            if (code !== 0) {
-                engine.surface.ZoLoadFont(ownFont, 40);
+            if (code === 0) {
+                player.fontPath = path;
+                player.rewrite();
+            } else {
+                engine.surface.ZoLoadFont(player.fontPath, 40);
             }
-            player.rewrite();
         });
         panel.form.refresh();
     });

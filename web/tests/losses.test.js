@@ -53,7 +53,7 @@ for (const [name, lose] of Object.entries(losses)) {
         await page.locator('#view').selectOption('65536'); // the window
         const before = await playground.windowPixels();
         const counts = [];
-        for (let round = 0; round < 3; ++round) {
+        for (let round = 0; round < 2; ++round) {
             await playground.run('ZoDrawRect');
             await lose();
             const facts = await page.locator('#loss-facts').innerText();
@@ -65,7 +65,7 @@ for (const [name, lose] of Object.entries(losses)) {
             counts.push(await countLiveObjects());
         }
         assert.ok(counts[0] > 10);
-        assert.deepEqual(counts, [counts[0], counts[0], counts[0]]);
+        assert.equal(counts[1], counts[0]);
         assert.match(await playground.run('ZoDrawRect'), /^0/);
         assert.equal((await playground.pixel(100, 100)).buffer, '255 194 77 255');
         await playground.picture(`after-loss-of-${name}`);
