@@ -24,12 +24,7 @@ export function openPlayground({ prepare } = {}) {
     /** @type {import('playwright-core').Browser} */
     let browser;
     before(async () => {
-        mkdirSync(pictures, { recursive: true });
-        browser = await chromium.launch({
-            executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
-            // The same software driver on every machine.
-            args: ['--no-sandbox', '--use-angle=swiftshader', '--enable-unsafe-swiftshader'],
-        });
+        browser = await launchBrowser();
         // Who wants less motion gets a scene that stands still.
         const context = await browser.newContext({ viewport: wide, reducedMotion: 'reduce' });
         playground.page = await context.newPage();
@@ -45,11 +40,20 @@ export function openPlayground({ prepare } = {}) {
     return playground;
 }
 
+export function launchBrowser() {
+    mkdirSync(pictures, { recursive: true });
+    return chromium.launch({
+        executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
+        // The same software driver on every machine.
+        args: ['--no-sandbox', '--use-angle=swiftshader', '--enable-unsafe-swiftshader'],
+    });
+}
+
 /**
  * @param {import('playwright-core').Page} page
  * @param {string[]} faults gets what goes wrong
  */
-function watch(page, faults) {
+export function watch(page, faults) {
     page.on('console', (message) => {
         if (message.type() === 'error') {
             faults.push(`console: ${message.text()}`);
