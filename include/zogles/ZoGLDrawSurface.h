@@ -305,8 +305,9 @@ public:
     ///     italic) and for measuring; 0 means 40
     /// @pre the surface is bound
     /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null path, with nothing changed; a font code (30 to
-    ///     32) or ZO_FAILURE: the font loaded before is gone then. Until another is loaded, plain text
-    ///     draws nothing and measures 30 a unit, with ZO_SUCCESS, and styled text fails
+    ///     32) or ZO_FAILURE: the font loaded before is gone then. Until another is loaded, text draws
+    ///     nothing: plain text with ZO_SUCCESS, measuring 30 a unit, and styled text with that or with
+    ///     ZO_FONT_ATLAS_EMPTY
     int ZoLoadFont(const char* path, unsigned int size);
 
     /// Measures a text in pixels at the size given to `ZoLoadFont`, whatever it asks for: the sum

@@ -127,13 +127,11 @@ export class Files extends EventTarget {
      * @param {number} code
      */
     #describe(path, size, code) {
-        if (code !== 0) {
-            return [
-                results[code].advice,
-                'The font before it is gone then; the page has loaded that one again.',
-            ];
-        }
         const { engine } = this;
+        if (code !== 0) {
+            const before = 'The font before it is gone then; the page has loaded that one again.';
+            return [results[code].advice, ...(engine.isBound ? [before] : [])];
+        }
         const { family, style, mapped, blank, atlasWidth, atlasHeight, leftOut } =
             engine.withoutLog(() => engine.library.DescribeFont(path, size));
         return [
