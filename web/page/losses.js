@@ -67,7 +67,12 @@ export class Losses extends EventTarget {
         this.window.addEventListener('click', () => this.#toggleWindow());
         this.context.addEventListener('click', () => this.#toggleContext());
         engine.addEventListener('binding', () => this.#follow());
-        engine.addEventListener('restored', () => engine.bind());
+        engine.addEventListener('restored', () => {
+            if (engine.isBound) {
+                engine.letGo(); // what was made meanwhile is no good
+            }
+            engine.bind();
+        });
         this.#follow();
     }
 
@@ -94,6 +99,8 @@ export class Losses extends EventTarget {
         if (!engine.isBound) {
             this.#lost ??= [...engine.targets.keys()].filter((handle) => handle !== windowHandle);
             this.#show(['The window is lost. Operations fail, with codes, until one is bound.']);
+        } else if (engine.gl.isContextLost()) {
+            this.#show(['A window is bound, but its context is away: nothing can be drawn.']);
         } else if (this.#lost) {
             this.#show(findFacts(engine, this.#lost));
             this.#lost = null;

@@ -129,6 +129,9 @@ export class Workbench {
         this.engine.addEventListener('log', listen);
         try {
             return { outcome: operation.run(this.engine, values), lines };
+        } catch {
+            // Not the library: what is handed to it is copied first.
+            return { outcome: { note: 'The page has no memory for such a call.' }, lines };
         } finally {
             this.engine.removeEventListener('log', listen);
         }

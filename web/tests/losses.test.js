@@ -83,6 +83,12 @@ test('losses in the middle of things', async () => {
     await playground.run('ZoDestoryGLWindowSurface');
     assert.match(await playground.run('ZoCreateGLWindowSurface'), /^0/);
     await playground.waitForBuffers('10 of 15');
+    // A binding while the context is away succeeds, and has to be done again.
+    await playground.press('Take the WebGL context away');
+    assert.match(await playground.run('ZoCreateGLWindowSurface'), /^0/);
+    await page.getByText('but its context is away').waitFor();
+    await playground.press('Give it back');
+    await page.getByText('10 of 10 buffers are back').waitFor();
     // A buffer of the scene is destroyed while it plays: it stops, and can be made anew.
     await playground.press('Play');
     await playground.press('Destroy 0x10009');
