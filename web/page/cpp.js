@@ -20,9 +20,21 @@ export function cppColor({ r, g, b, a }) {
     return `{${r}, ${g}, ${b}, ${a}}`;
 }
 
-/** @param {string} text */
+/**
+ * A literal that holds the very units of a text, also halves of pairs and what cannot be seen.
+ *
+ * @param {string} text
+ */
 export function cppText(text) {
-    const units = [...text].map((unit) => escapes[unit] ?? unit);
+    const units = [...text].map((unit) => {
+        if (unit === '"' || unit === '\\') {
+            return `\\${unit}`;
+        }
+        // The literal ends after a number, and another begins: digits that follow would belong to it.
+        return /^[\0-\x1f\x7f\ud800-\udfff]$/.test(unit)
+            ? `\\x${unit.charCodeAt(0).toString(16)}" u"`
+            : unit;
+    });
     return `u"${units.join('')}"`;
 }
 
@@ -35,6 +47,3 @@ export function cppPath(path) {
 export function cppFormat(format) {
     return format === 9 ? 'ZO_FORMAT_RGBA8888' : `${format}`;
 }
-
-/** @type {Record<string, string>} */
-const escapes = { '"': '\\"', '\\': '\\\\', '\n': '\\n', '\t': '\\t', '\0': '\\0' };
