@@ -44,3 +44,22 @@ export function find(id, type) {
 export function notice(text) {
     find('notice', HTMLElement).textContent = text;
 }
+
+/**
+ * Work that many events ask for, done at most once in a frame.
+ *
+ * @param {() => void} work
+ * @returns {() => void} asks for it
+ */
+export function oncePerFrame(work) {
+    let isAsked = false;
+    return () => {
+        if (!isAsked) {
+            isAsked = true;
+            requestAnimationFrame(() => {
+                isAsked = false;
+                work();
+            });
+        }
+    };
+}

@@ -1,6 +1,6 @@
 // The log, filtered by the platform's own syntax, and by the library's own reading of it.
 
-import { find, make } from './dom.js';
+import { find, make, oncePerFrame } from './dom.js';
 import { priorityOf } from './log.js';
 
 /** @typedef {import('./log.js').LogLine & { count: number }} Entry */
@@ -26,7 +26,7 @@ export class LogPanel {
     /** @type {Entry[]} */
     #entries = [];
 
-    #isWaiting = false;
+    #ask = oncePerFrame(() => this.#show());
 
     /** @param {import('./engine.js').Engine} engine */
     constructor(engine) {
@@ -59,16 +59,6 @@ export class LogPanel {
             this.#entries.splice(0, this.#entries.length - mostEntries);
         }
         this.#ask();
-    }
-
-    #ask() {
-        if (!this.#isWaiting) {
-            this.#isWaiting = true;
-            requestAnimationFrame(() => {
-                this.#isWaiting = false;
-                this.#show();
-            });
-        }
     }
 
     #show() {

@@ -1,6 +1,6 @@
 // What the pixel under the pointer is made of, in the buffer and on the window.
 
-import { find, make } from './dom.js';
+import { find, make, oncePerFrame } from './dom.js';
 import { formatHandle, readPixels, windowHandle } from './targets.js';
 
 /** @typedef {{ handle: number, x: number, y: number }} Pixel */
@@ -36,8 +36,8 @@ export class Magnifier {
     /** @type {Pixel} */
     #pixel = { handle: windowHandle, x: 0, y: 0 };
 
-    #isWaiting = false;
     #lastLook = 0;
+    #ask = oncePerFrame(() => this.#update()); // reading pixels waits for the driver
 
     /**
      * @param {import('./engine.js').Engine} engine
@@ -83,17 +83,6 @@ export class Magnifier {
             }
         });
         point(Number(this.x.value), Number(this.y.value));
-    }
-
-    // Pixels are read at most once in a frame.
-    #ask() {
-        if (!this.#isWaiting) {
-            this.#isWaiting = true;
-            requestAnimationFrame(() => {
-                this.#isWaiting = false;
-                this.#update();
-            });
-        }
     }
 
     #update() {
