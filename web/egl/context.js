@@ -28,6 +28,7 @@ mergeInto(LibraryManager.library, {
                 GLctx = GLctx || Contexts.none;
                 return isDone;
             };
+            var createContext = GL.createContext;
             var deleteContext = GL.deleteContext;
             GL.deleteContext = function (handle) {
                 var context = GL.contexts[handle];
@@ -35,6 +36,15 @@ mergeInto(LibraryManager.library, {
                     Contexts.deleteObjects(context);
                 }
                 deleteContext(handle);
+            };
+            // A canvas gives the context that it has also while the browser has taken it away.
+            GL.createContext = function (canvas, attributes) {
+                var handle = createContext(canvas, attributes);
+                if (handle && GL.contexts[handle].GLctx.isContextLost()) {
+                    deleteContext(handle);
+                    return 0;
+                }
+                return handle;
             };
             GLctx = Contexts.none;
         },

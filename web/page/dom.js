@@ -63,3 +63,20 @@ export function oncePerFrame(work) {
         }
     };
 }
+
+/**
+ * Work that many events ask for, done at most once in a while, and always once more after the last of them.
+ *
+ * @param {() => void} work
+ * @param {number} pause milliseconds
+ * @returns {() => void} asks for it
+ */
+export function throttle(work, pause) {
+    let timer = 0;
+    return () => {
+        timer ||= window.setTimeout(() => {
+            timer = 0;
+            work();
+        }, pause);
+    };
+}

@@ -11,9 +11,6 @@ import { findTarget, mostBuffers, windowHandle } from './targets.js';
 
 export const windowSize = { width: 1280, height: 720 };
 
-/** Everything that `Init` can create. */
-export const allComponents = 0x3f;
-
 // The library asks for a plain context. The page asks first, so that what the window holds stays there to
 // be looked at: elsewhere it is undefined once it was shown.
 function createCanvas() {
@@ -73,6 +70,9 @@ export class Engine extends EventTarget {
 
     isBound = false;
 
+    /** Whether the browser took the context, and the surface is to be bound again when it gives it back. */
+    #isTaken = false;
+
     #isMuted = false;
 
     /**
@@ -112,6 +112,7 @@ export class Engine extends EventTarget {
     /** Lets go of the window, which stays where it is. */
     letGo() {
         this.surface.ZoDestoryGLWindowSurface();
+        this.#isTaken = false;
         this.presentation = null;
         this.isBound = false;
         this.#tell('binding');
@@ -130,6 +131,9 @@ export class Engine extends EventTarget {
         }
         const before = describeTargets(this.targets);
         this.targets = this.withoutLog(() => this.#findTargets());
+        if (this.presentation && !this.targets.has(this.presentation.handle)) {
+            this.presentation = null;
+        }
         if (describeTargets(this.targets) !== before) {
             this.#tell('targets');
         }
@@ -174,10 +178,12 @@ export class Engine extends EventTarget {
             event.preventDefault(); // or the browser never gives it back
             if (this.isBound && canvas === this.canvas) {
                 this.letGo();
+                this.#isTaken = true;
             }
         });
         canvas.addEventListener('webglcontextrestored', () => {
-            if (canvas === this.canvas) {
+            if (this.#isTaken && canvas === this.canvas) {
+                this.#isTaken = false;
                 this.#tell('restored');
             }
         });

@@ -115,7 +115,7 @@ function makeSelect(field, options, parse) {
 /** @type {Record<Field['kind'], (field: Field, choices: Choices) => Widget>} */
 const makers = {
     number: (field) => {
-        const { input } = makeNumber(field.label, field.value, mostUnsigned);
+        const { input } = makeNumber(field.label, field.value, field.most ?? mostUnsigned);
         return {
             element: makeRow(field, input),
             read: () => Number(input.value),

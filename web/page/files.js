@@ -34,10 +34,13 @@ function nameCharacters(codes) {
     return shown.join(', ') + (more > 0 ? ` and ${more} more` : '');
 }
 
-/** Tells of "font" with a path and a code, and of "picture" with a name. */
+/** Tells of "font" with a path that was loaded, and of "picture" with a name. */
 export class Files extends EventTarget {
     /** @type {string[]} */
     fonts = [];
+
+    /** The font that was loaded last. */
+    #last = { path: ownFont, size: 40 };
 
     /** @type {Map<string, ImageData>} */
     pictures = new Map();
@@ -79,59 +82,81 @@ export class Files extends EventTarget {
 
     /** @param {File[]} files */
     async take(files) {
+        this.report.replaceChildren();
         for (const file of files) {
-            await (file.type.startsWith('image/') ? this.#takePicture(file) : this.#takeFont(file));
+            try {
+                const isPicture = file.type.startsWith('image/');
+                await (isPicture ? this.#takePicture(file) : this.#takeFont(file));
+            } catch {
+                this.#tell([`${file.name} cannot be read.`]);
+            }
         }
     }
 
     /**
+     * Each file gets a path of its own: one that is loaded stays open, and is not to be written over.
+     *
      * @param {string} path
      * @param {Uint8Array} data
      */
     #store(path, data) {
-        this.engine.library.FS.mkdirTree('/fonts');
-        this.engine.library.FS.writeFile(path, data);
-        if (!this.fonts.includes(path)) {
-            this.fonts.push(path);
-        }
+        const { FS } = this.engine.library;
+        FS.mkdirTree(path.slice(0, path.lastIndexOf('/')));
+        FS.writeFile(path, data);
+        this.fonts.push(path);
     }
 
     /** @param {File} file */
     async #takePicture(file) {
-        try {
-            this.pictures.set(file.name, await decode(file));
-        } catch {
-            this.#show([`${file.name} is no picture that this browser reads.`]);
+        const picture = await decode(file);
+        const most = this.engine.gl.getParameter(this.engine.gl.MAX_TEXTURE_SIZE) ?? 0;
+        if (picture.width > most || picture.height > most) {
+            this.#tell([
+                `${file.name} is larger than a texture can be here, ${most} pixels a side.`,
+            ]);
             return;
         }
-        this.#show([`${file.name} is a bitmap now: ZoDisplayBitmap shows it on the window.`]);
+        this.pictures.set(file.name, picture);
+        this.#tell([`${file.name} is a bitmap now: ZoDisplayBitmap shows it on the window.`]);
         this.dispatchEvent(new CustomEvent('picture', { detail: file.name }));
     }
 
     /** @param {File} file */
     async #takeFont(file) {
-        const path = `/fonts/${file.name}`;
+        const input = find('file-size', HTMLInputElement);
+        if (!input.reportValidity()) {
+            return;
+        }
+        const size = Number(input.value);
+        const path = `/fonts/${this.fonts.length}/${file.name.replaceAll('/', '_')}`;
         this.#store(path, new Uint8Array(await file.arrayBuffer()));
-        const size = Number(find('file-size', HTMLInputElement).value) || 40;
         const code = this.engine.surface.ZoLoadFont(path, size);
-        this.#show([
-            `${file.name}: ${code} ${results[code].name}, ${results[code].meaning}.`,
-            ...this.#describe(path, size, code),
-        ]);
-        this.dispatchEvent(new CustomEvent('font', { detail: { path, code } }));
+        const { name, meaning, advice } = results[code];
+        this.#tell([`${file.name}: ${code} ${name}, ${meaning}.`]);
+        if (code === 0) {
+            this.#last = { path, size };
+            this.#tell(this.#describe(path, size));
+            this.dispatchEvent(new CustomEvent('font', { detail: path }));
+        } else {
+            this.#tell([advice, this.#loadLast()]);
+        }
+    }
+
+    /** A font that cannot be loaded takes the one before along. */
+    #loadLast() {
+        const { path, size } = this.#last;
+        const code = this.engine.withoutLog(() => this.engine.surface.ZoLoadFont(path, size));
+        return code === 0
+            ? 'The font before it is gone then; the page has loaded that one again.'
+            : `The font before it is gone then, and cannot be loaded now either: ${code}.`;
     }
 
     /**
      * @param {string} path
      * @param {number} size
-     * @param {number} code
      */
-    #describe(path, size, code) {
+    #describe(path, size) {
         const { engine } = this;
-        if (code !== 0) {
-            const before = 'The font before it is gone then; the page has loaded that one again.';
-            return [results[code].advice, ...(engine.isBound ? [before] : [])];
-        }
         const { family, style, mapped, blank, atlasWidth, atlasHeight, leftOut } =
             engine.withoutLog(() => engine.library.DescribeFont(path, size));
         return [
@@ -144,7 +169,7 @@ export class Files extends EventTarget {
     }
 
     /** @param {string[]} lines */
-    #show(lines) {
-        this.report.replaceChildren(...lines.map((line) => make('p', {}, line)));
+    #tell(lines) {
+        this.report.append(...lines.map((line) => make('p', {}, line)));
     }
 }

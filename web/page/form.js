@@ -26,6 +26,7 @@ export class Form extends EventTarget {
     #widgets = {};
 
     #code = make('code');
+    #copy = make('button', { type: 'button', class: 'quiet' }, 'Copy the C++');
     #result = make('div', { class: 'result', role: 'status' });
 
     /**
@@ -42,16 +43,7 @@ export class Form extends EventTarget {
             this.#widgets[name].element.dataset.field = name;
             return this.#widgets[name].element;
         });
-        const copy = make('button', { type: 'button', class: 'quiet' }, 'Copy the C++');
-        copy.addEventListener('click', async () => {
-            if (navigator.clipboard) {
-                await navigator.clipboard.writeText(this.#code.textContent ?? '');
-                copy.textContent = 'Copied';
-                setTimeout(() => (copy.textContent = 'Copy the C++'), 1500);
-            } else {
-                getSelection()?.selectAllChildren(this.#code); // pages without TLS have no clipboard
-            }
-        });
+        this.#copy.addEventListener('click', () => this.#copyCode());
         this.element = make(
             'form',
             { class: 'operation' },
@@ -62,7 +54,7 @@ export class Form extends EventTarget {
                 'div',
                 { class: 'actions' },
                 make('button', { class: 'main' }, `Run ${operation.name}`),
-                copy,
+                this.#copy,
             ),
             this.#result,
         );
@@ -109,6 +101,16 @@ export class Form extends EventTarget {
         this.#result.replaceChildren(...describe(outcome), ...logged, ...more);
     }
 
+    async #copyCode() {
+        try {
+            await navigator.clipboard.writeText(this.#code.textContent ?? '');
+            this.#copy.textContent = 'Copied';
+            setTimeout(() => (this.#copy.textContent = 'Copy the C++'), 1500);
+        } catch {
+            getSelection()?.selectAllChildren(this.#code); // without TLS or leave, there is no clipboard
+        }
+    }
+
     /** @param {Event} [event] */
     #update(event) {
         const source =
@@ -116,6 +118,10 @@ export class Form extends EventTarget {
         this.#followText(source);
         this.#limitPixels();
         this.#code.textContent = this.operation.cpp(this.values).join('\n');
+        this.#copy.disabled = this.element.matches(':invalid');
+        if (event) {
+            this.#result.replaceChildren(); // it belongs to other values
+        }
         this.dispatchEvent(new Event('change'));
     }
 

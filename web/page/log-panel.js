@@ -66,8 +66,12 @@ export class LogPanel {
         const shown = this.#entries.filter(({ priority, tag }) =>
             library.Shows(this.filter.value, priorityOf(priority), tag),
         );
+        const { scrollTop, scrollHeight, clientHeight } = this.list;
+        const isAtEnd = scrollTop + clientHeight > scrollHeight - 8;
         this.list.replaceChildren(...shown.map((entry) => makeLine(entry, entry.count)));
-        this.list.scrollTop = this.list.scrollHeight;
+        if (isAtEnd) {
+            this.list.scrollTop = this.list.scrollHeight; // who reads further up is left there
+        }
         const hidden = this.#entries.length - shown.length;
         this.hidden.textContent = hidden === 0 ? '' : `${hidden} filtered out`;
     }

@@ -37,15 +37,16 @@ function measureCode(engine) {
 function findFacts(engine, before) {
     const back = before.filter((handle) => engine.targets.has(handle));
     const code = measureCode(engine);
+    const pixels = holdsOnlyZeros(engine)
+        ? 'Their pixels were not: every buffer was transparent black.'
+        : 'Their pixels were there still.';
     return [
         `${back.length} of ${before.length} buffers are back under their handles.`,
-        holdsOnlyZeros(engine)
-            ? 'Their pixels are not: every buffer is transparent black.'
-            : 'Their pixels are there still.',
+        ...(back.length > 0 ? [pixels] : []),
         code === 0
-            ? 'The font is there still.'
-            : `The font is not: measuring a text gave ${code}, as the default font is not on this system.`,
-        'The components are made anew when they are first used.',
+            ? 'The font was there still.'
+            : `The font was not: measuring a text gave ${code}, as this system has no default font.`,
+        'Then the page loaded its font and painted the scene again.',
     ];
 }
 
@@ -67,12 +68,7 @@ export class Losses extends EventTarget {
         this.window.addEventListener('click', () => this.#toggleWindow());
         this.context.addEventListener('click', () => this.#toggleContext());
         engine.addEventListener('binding', () => this.#follow());
-        engine.addEventListener('restored', () => {
-            if (engine.isBound) {
-                engine.letGo(); // what was made meanwhile is no good
-            }
-            engine.bind();
-        });
+        engine.addEventListener('restored', () => engine.bind());
         this.#follow();
     }
 
@@ -99,8 +95,6 @@ export class Losses extends EventTarget {
         if (!engine.isBound) {
             this.#lost ??= [...engine.targets.keys()].filter((handle) => handle !== windowHandle);
             this.#show(['The window is lost. Operations fail, with codes, until one is bound.']);
-        } else if (engine.gl.isContextLost()) {
-            this.#show(['A window is bound, but its context is away: nothing can be drawn.']);
         } else if (this.#lost) {
             this.#show(findFacts(engine, this.#lost));
             this.#lost = null;

@@ -1,6 +1,7 @@
 // What the pixel under the pointer is made of, in the buffer and on the window.
 
-import { find, make, oncePerFrame } from './dom.js';
+import { find, make, oncePerFrame, throttle } from './dom.js';
+import { windowSize } from './engine.js';
 import { formatHandle, readPixels, windowHandle } from './targets.js';
 
 /** @typedef {{ handle: number, x: number, y: number }} Pixel */
@@ -36,7 +37,6 @@ export class Magnifier {
     /** @type {Pixel} */
     #pixel = { handle: windowHandle, x: 0, y: 0 };
 
-    #lastLook = 0;
     #ask = oncePerFrame(() => this.#update()); // reading pixels waits for the driver
 
     /**
@@ -65,9 +65,11 @@ export class Magnifier {
             place(x, y);
         });
         for (const input of [this.x, this.y]) {
-            input.addEventListener('input', () =>
-                point(Number(this.x.value), Number(this.y.value)),
-            );
+            input.addEventListener('input', () => {
+                if (this.x.validity.valid && this.y.validity.valid) {
+                    point(Number(this.x.value), Number(this.y.value));
+                }
+            });
         }
         stage.addEventListener('view', () => {
             const { width, height } = stage.target ?? engine.canvas;
@@ -77,16 +79,12 @@ export class Magnifier {
                 isInside ? Number(this.y.value) : height >> 1,
             );
         });
-        engine.addEventListener('drawn', () => {
-            if (performance.now() - this.#lastLook > pauseBetweenLooks) {
-                this.#ask();
-            }
-        });
+        const lookLater = throttle(() => this.#update(), pauseBetweenLooks);
+        engine.addEventListener('drawn', lookLater);
         point(Number(this.x.value), Number(this.y.value));
     }
 
     #update() {
-        this.#lastLook = performance.now();
         const [buffer, onWindow] = this.#findPair();
         this.#drawLens();
         this.rows.replaceChildren(
@@ -102,14 +100,27 @@ export class Magnifier {
         const shown = this.engine.presentation;
         if (pixel.handle === windowHandle) {
             const isShown = shown !== null && holds(shown.destination, pixel.x, pixel.y);
-            const source = isShown
-                ? carry(shown.destination, shown.source, pixel.x, pixel.y)
-                : null;
-            return [shown && source && { handle: shown.handle, ...source }, pixel];
+            return [isShown ? this.#findSource(shown, pixel) : null, pixel];
         }
         const isShown = shown?.handle === pixel.handle && holds(shown.source, pixel.x, pixel.y);
         const place = isShown ? carry(shown.source, shown.destination, pixel.x, pixel.y) : null;
         return [pixel, place && { handle: windowHandle, ...place }];
+    }
+
+    /**
+     * The buffer's pixel that became one of the window; past the buffer's sides its edge repeats.
+     *
+     * @param {import('./engine.js').Presentation} shown
+     * @param {Pixel} pixel of the window
+     */
+    #findSource({ handle, source, destination }, { x, y }) {
+        const target = this.engine.targets.get(handle);
+        const place = carry(destination, source, x, y);
+        return {
+            handle,
+            x: Math.min(place.x, (target?.width ?? 1) - 1),
+            y: Math.min(place.y, (target?.height ?? 1) - 1),
+        };
     }
 
     /**
@@ -149,7 +160,14 @@ export class Magnifier {
         const pixels = readPixels(this.engine.gl, target, rect);
         if (handle === windowHandle) {
             // The window's colours are multiplied by alpha already; a buffer's are not.
-            pixels.forEach((_, i) => i % 4 === 3 && (pixels[i] = 255));
+            for (let i = 0; i < side * side; ++i) {
+                const isInside = holds(
+                    { x: 0, y: 0, ...windowSize },
+                    rect.x + (i % side),
+                    rect.y + Math.floor(i / side),
+                );
+                pixels[i * 4 + 3] = isInside ? 255 : 0;
+            }
         }
         context?.putImageData(new ImageData(pixels, side, side), 0, 0);
     }

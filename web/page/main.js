@@ -59,7 +59,9 @@ function wirePlayer(player) {
         button.textContent = player.isPlaying ? 'Pause' : 'Play';
         button.disabled = !player.engine.isBound;
         if (player.engine.isBound && !player.isGood) {
-            notice('The scene has stopped: what it draws with is gone. Play makes it anew.');
+            notice(
+                'The scene has stopped: a buffer of its is gone, or there is no room. Play makes it anew.',
+            );
         }
     };
     button.addEventListener('click', () => {
@@ -80,7 +82,7 @@ function wirePlayer(player) {
  * @param {Player} player
  */
 function startScene(player) {
-    if (!player.isGood && !player.engine.withoutLog(() => player.restart())) {
+    if (!player.isGood && !player.restart()) {
         notice('The scene needs eleven free buffers to be made anew: destroy some of yours.');
         return;
     }
@@ -96,15 +98,8 @@ function startScene(player) {
  */
 function wireFiles(engine, player, files, { panel }) {
     files.addEventListener('font', (event) => {
-        const { path, code } = /** @type {CustomEvent} */ (event).detail;
-        engine.withoutLog(() => {
-            if (code === 0) {
-                player.fontPath = path;
-                player.rewrite();
-            } else {
-                engine.surface.ZoLoadFont(player.fontPath, 40);
-            }
-        });
+        player.fontPath = /** @type {CustomEvent} */ (event).detail;
+        engine.withoutLog(() => player.rewrite());
         panel.form.refresh();
     });
     files.addEventListener('picture', (event) => {
@@ -140,9 +135,7 @@ async function start() {
     new Workbench(engine, player, panels);
     wireFiles(engine, player, files, panels);
     panels.losses.addEventListener('back', () => {
-        if (player.isGood && !engine.withoutLog(() => player.repaint())) {
-            notice('The scene could not paint itself again: it needs two free buffers for that.');
-        }
+        engine.withoutLog(() => player.repaint());
     });
     find('behind', HTMLSelectElement).addEventListener('change', (event) => {
         find('viewport', HTMLElement).dataset.behind = /** @type {HTMLSelectElement} */ (

@@ -17,6 +17,7 @@ import { windowHandle } from './targets.js';
  * @property {any} value what the form starts with
  * @property {string} [target] for a rectangle or a pen: the field with the target that it lies on, or
  *     nothing for the window
+ * @property {number} [most] of a number: the largest that its type holds
  * @property {string} [hint]
  */
 
@@ -67,7 +68,11 @@ const color = ([r, g, b, a]) => ({
     hint: '0 and 1 are the intensity itself, so 1 is as bright as 255',
 });
 
-const formatField = number('format', 9, '9 is ZO_FORMAT_RGBA8888, the only one');
+/** @type {Field} */
+const formatField = {
+    ...number('format', 9, '9 is ZO_FORMAT_RGBA8888, the only one'),
+    most: 0x7fffffff,
+};
 
 /** The buffer that the page makes for its visitor, the first after the scene's nine. */
 export const ownHandle = windowHandle | 10;
@@ -182,13 +187,7 @@ export const operations = [
             height: number('height', 480),
             rect: rect('rect', undefined, [460, 120, 360, 480]),
         },
-        run: (engine, values) => {
-            const code = engine.surface.ZoDisplayBitmap(values);
-            if (code === 0) {
-                engine.presentation = null;
-            }
-            return { code };
-        },
+        run: ({ surface }, values) => ({ code: surface.ZoDisplayBitmap(values) }),
         cpp: ({ data, format, width, height, rect }) => [
             'tagZoBitmapInfo info = {};',
             data.length === 0

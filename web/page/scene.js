@@ -1,5 +1,7 @@
 // The demo's scene, playing on the engine's surface.
 
+import { mostBuffers } from './targets.js';
+
 /** @typedef {import('./engine.js').Engine} Engine */
 
 /** The scene's buffers, in the order in which it creates them. */
@@ -14,6 +16,8 @@ const bufferNames = [
     'all that rests',
     'frame',
 ];
+
+const buffersToPaintWith = 2;
 
 const shownMinute = 32; // 21:47 by the scene's clock
 const lastMinute = 74;
@@ -34,6 +38,7 @@ export class Player extends EventTarget {
     #scene = null;
 
     #minute = shownMinute;
+    #request = 0;
 
     /**
      * @param {Engine} engine
@@ -44,6 +49,7 @@ export class Player extends EventTarget {
         this.engine = engine;
         this.fontPath = fontPath;
         engine.addEventListener('binding', () => engine.isBound || this.pause());
+        engine.addEventListener('targets', () => this.#checkBuffers());
     }
 
     /** False once the scene cannot be drawn any more, as when a buffer of its was destroyed. */
@@ -58,10 +64,19 @@ export class Player extends EventTarget {
     /**
      * Creates the scene anew, and shows its first frame.
      *
-     * @returns {boolean} whether that went well
+     * @returns {boolean} whether that went well; without room for it, nothing is changed
      */
     restart() {
+        const others = this.engine.targets.size - 1 - this.names.size;
+        if (mostBuffers - others < bufferNames.length + buffersToPaintWith) {
+            return false;
+        }
+        return this.engine.withoutLog(() => this.#restart());
+    }
+
+    #restart() {
         this.#scene?.delete();
+        this.#scene = null;
         for (const handle of this.names.keys()) {
             if (this.engine.targets.has(handle)) {
                 this.engine.surface.ZoDestoryGLFBO(handle);
@@ -75,6 +90,7 @@ export class Player extends EventTarget {
         this.engine.updateTargets();
         const own = [...this.engine.targets.keys()].filter((handle) => !before.has(handle));
         own.forEach((handle, i) => this.names.set(handle, bufferNames[i]));
+        this.engine.dispatchEvent(new Event('targets')); // they have names now
         return this.repaint();
     }
 
@@ -110,16 +126,28 @@ export class Player extends EventTarget {
             this.#minute = this.#minute > lastMinute ? 0 : this.#minute + minutesPerFrame;
             this.drawFrame();
             if (this.isReady) {
-                requestAnimationFrame(step);
+                this.#request = requestAnimationFrame(step);
             } else {
                 this.pause();
             }
         };
-        requestAnimationFrame(step);
+        this.#request = requestAnimationFrame(step);
     }
 
     pause() {
+        cancelAnimationFrame(this.#request);
         this.#setPlaying(false);
+    }
+
+    // Another buffer may get the handle of one that is gone, and is not the scene's to draw into.
+    #checkBuffers() {
+        const gone = [...this.names.keys()].filter((handle) => !this.engine.targets.has(handle));
+        gone.forEach((handle) => this.names.delete(handle));
+        if (gone.length > 0 && this.#scene) {
+            this.#scene.delete();
+            this.#scene = null;
+            this.pause();
+        }
     }
 
     /** @param {boolean} isPlaying */

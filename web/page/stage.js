@@ -1,6 +1,6 @@
 // The picture: one target, the window or a buffer, with the rectangles of the chosen form upon it.
 
-import { find, make } from './dom.js';
+import { find, make, throttle } from './dom.js';
 import { copyToCanvas, formatHandle, isReadable, windowHandle } from './targets.js';
 
 /** @typedef {import('./libzogles.mjs').Rect} Rect */
@@ -41,8 +41,6 @@ export class Stage extends EventTarget {
     /** @type {(Rect & { handle: number, label: string }) | null} */
     #box = null;
 
-    #lastCopy = 0;
-
     /**
      * @param {import('./engine.js').Engine} engine
      * @param {(handle: number) => string} nameOf
@@ -62,7 +60,8 @@ export class Stage extends EventTarget {
         for (const type of ['targets', 'binding']) {
             engine.addEventListener(type, () => this.#listTargets());
         }
-        engine.addEventListener('drawn', () => this.#copy(pauseBetweenCopies));
+        const copyLater = throttle(() => this.#copy(), pauseBetweenCopies);
+        engine.addEventListener('drawn', copyLater);
         this.overlay.addEventListener('pointerdown', (event) =>
             this.#startDrag(/** @type {PointerEvent} */ (event)),
         );
@@ -81,7 +80,7 @@ export class Stage extends EventTarget {
         this.handle = handle;
         this.select.value = `${handle}`;
         this.#layOut();
-        this.#copy(0);
+        this.#copy();
         this.#drawOverlay();
         this.dispatchEvent(new Event('view'));
     }
@@ -124,15 +123,23 @@ export class Stage extends EventTarget {
         );
     }
 
+    /** Why there is no picture. */
+    #explain() {
+        if (!this.engine.isBound) {
+            return 'No window is bound. Its buffers are remembered by their handles and sizes.';
+        }
+        return this.target?.isComplete
+            ? 'This buffer is too large to be shown whole. Its pixels are told one by one below.'
+            : 'Nothing drawn into a buffer of this size leaves a mark.';
+    }
+
     #layOut() {
         const { engine, target } = this;
         const isWindow = this.handle === windowHandle && engine.isBound;
         engine.canvas.hidden = !isWindow;
         this.copy.hidden = !this.#isCopy;
         this.message.hidden = isWindow || this.#isCopy;
-        this.message.textContent = engine.isBound
-            ? 'Nothing drawn into a buffer of this size leaves a mark.'
-            : 'No window is bound. Its buffers are remembered by their handles and sizes.';
+        this.message.textContent = this.#explain();
         const { width, height } = target?.isComplete ? target : engine.canvas;
         this.viewport.style.setProperty('--width', `${width}`);
         this.viewport.style.setProperty('--height', `${height}`);
@@ -143,22 +150,15 @@ export class Stage extends EventTarget {
         );
     }
 
-    /**
-     * Shows what a buffer holds now.
-     *
-     * @param {number} pause the milliseconds that must have gone by since it was last done
-     */
-    #copy(pause) {
-        const now = performance.now();
-        if (this.#isCopy && this.target && now - this.#lastCopy >= pause) {
-            this.#lastCopy = now;
+    #copy() {
+        if (this.#isCopy && this.target) {
             copyToCanvas(this.engine.gl, this.target, this.copy);
         }
     }
 
     /** Shows what was just drawn, however short the time since the last look. */
     refresh() {
-        this.#copy(0);
+        this.#copy();
     }
 
     /**
@@ -259,6 +259,9 @@ export class Stage extends EventTarget {
 
     /** @param {PointerEvent} event */
     #startDrag(event) {
+        if (event.button !== 0 || !event.isPrimary) {
+            return;
+        }
         const part = event.target instanceof SVGElement ? event.target.dataset : {};
         const own = this.#marks.filter(({ handle }) => handle === this.handle);
         // A drag that starts beside all of them draws the first rectangle anew.

@@ -40,10 +40,12 @@ export function findTarget(gl, surface, handle) {
         viewport.call(gl, x, y, width, height);
     };
     gl.drawArrays = () => {};
-    const code = surface.ZoDrawRect(handle, nowhere, nothing);
-    Object.assign(gl, { bindFramebuffer, viewport, drawArrays });
-    if (code !== 0) {
-        return null;
+    try {
+        if (surface.ZoDrawRect(handle, nowhere, nothing) !== 0) {
+            return null;
+        }
+    } finally {
+        Object.assign(gl, { bindFramebuffer, viewport, drawArrays });
     }
     gl.bindFramebuffer(gl.FRAMEBUFFER, target.framebuffer);
     target.isComplete = gl.checkFramebufferStatus(gl.FRAMEBUFFER) === gl.FRAMEBUFFER_COMPLETE;

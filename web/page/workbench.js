@@ -110,6 +110,9 @@ export class Workbench {
         }
         const before = operation.name === 'ZoDrawText' ? takePicture(engine, values.handle) : null;
         const { outcome, lines } = this.#call();
+        if (handle === windowHandle && operation.name !== 'ZoDisplayFBO') {
+            engine.presentation = null;
+        }
         engine.updateTargets();
         this.#view(handle);
         stage.refresh();

@@ -136,8 +136,12 @@ export class Playground {
         await this.page.locator('#pixel-x').fill(`${x}`);
         await this.page.locator('#pixel-y').fill(`${y}`);
         await this.page.evaluate(() => new Promise(requestAnimationFrame));
-        const rows = await this.page.locator('#pixel-values tr').allInnerTexts();
-        const [buffer, window] = rows.map((row) => row.split(/\s+/).slice(-4).join(' '));
+        const [buffer, window] = await this.page.locator('#pixel-values').evaluate((body) =>
+            [...body.children].map((row) => {
+                const cells = [...row.children].map((cell) => cell.textContent);
+                return cells.slice(-4).join(' ');
+            }),
+        );
         return { buffer, window };
     }
 

@@ -8,6 +8,7 @@ import { pictures, openPlayground } from './harness.js';
 
 // What is scaled or blended into a buffer is rounded by each driver in its own way, so that its colour and
 // its alpha may be one level apart. To present it multiplies the two, and rounds once more: that is two.
+// Alpha is not compared: the window that the demo's picture is of has none.
 const mostDifference = 2;
 
 const reference = process.env.PLAYGROUND_REFERENCE ?? 'out/web-test/mesa/osd.png';
