@@ -161,6 +161,7 @@ export class Playground {
      * @param {boolean} [isWhole] whether it goes beyond what the screen shows
      */
     async picture(name, isWhole = true) {
+        await this.page.evaluate(() => scrollTo(0, 0)); // what sticks to the screen stands at the top
         await this.page.screenshot({ path: `${pictures}/${name}.png`, fullPage: isWhole });
     }
 }
