@@ -46,7 +46,7 @@ function findFacts(engine, before) {
         code === 0
             ? 'The font was there still.'
             : `The font was not: measuring a text gave ${code}, as this system has no default font.`,
-        'Then the page loaded its font and painted the scene again.',
+        'Then the page loads its font, and paints the scene again if there is room for it.',
     ];
 }
 

@@ -118,7 +118,7 @@ async function start() {
     const engine = await Engine.start(find('viewport', HTMLElement));
     const files = new Files(engine);
     await files.loadOwn();
-    const log = new LogPanel(engine);
+    new LogPanel(engine);
     const code = engine.bind();
     if (code !== 0) {
         throw new Error(`binding the canvas gave ${code}`);
@@ -146,7 +146,6 @@ async function start() {
         player.play();
     }
     document.documentElement.dataset.state = 'ready';
-    return { engine, player, log };
 }
 
 start().catch((error) => {

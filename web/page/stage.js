@@ -60,8 +60,8 @@ export class Stage extends EventTarget {
         for (const type of ['targets', 'binding']) {
             engine.addEventListener(type, () => this.#listTargets());
         }
-        const copyLater = throttle(() => this.#copy(), pauseBetweenCopies);
-        engine.addEventListener('drawn', copyLater);
+        const refreshLater = throttle(() => this.refresh(), pauseBetweenCopies);
+        engine.addEventListener('drawn', refreshLater);
         this.overlay.addEventListener('pointerdown', (event) =>
             this.#startDrag(/** @type {PointerEvent} */ (event)),
         );
@@ -80,7 +80,7 @@ export class Stage extends EventTarget {
         this.handle = handle;
         this.select.value = `${handle}`;
         this.#layOut();
-        this.#copy();
+        this.refresh();
         this.#drawOverlay();
         this.dispatchEvent(new Event('view'));
     }
@@ -150,15 +150,11 @@ export class Stage extends EventTarget {
         );
     }
 
-    #copy() {
+    /** Shows what the buffer holds now. */
+    refresh() {
         if (this.#isCopy && this.target) {
             copyToCanvas(this.engine.gl, this.target, this.copy);
         }
-    }
-
-    /** Shows what was just drawn, however short the time since the last look. */
-    refresh() {
-        this.#copy();
     }
 
     /**
