@@ -3,15 +3,11 @@
 #if !defined(__ANDROID__)
 
 #include "platform/LogFilter.h"
-#include "platform/LogRepeats.h"
 
-#include <algorithm>
 #include <cstdarg>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <unistd.h>
 
 namespace {
@@ -52,40 +48,6 @@ int WriteMessage(int priority, const char* tag, const char* text) {
     return total;
 }
 
-// FNV-1a, see http://www.isthe.com/chongo/tech/comp/fnv/
-std::uint64_t Hash(std::uint64_t hash, const char* text) {
-    for (; *text != '\0'; ++text) {
-        hash = (hash ^ static_cast<unsigned char>(*text)) * 0x100000001B3U;
-    }
-    return hash;
-}
-
-// A coarse clock is read without a system call, where there is one: Emscripten, for one, refuses it.
-std::int64_t Milliseconds() {
-    timespec time = {};
-    if (clock_gettime(CLOCK_MONOTONIC_COARSE, &time) != 0) {
-        clock_gettime(CLOCK_MONOTONIC, &time);
-    }
-    return std::int64_t{time.tv_sec} * 1000 + time.tv_nsec / 1000000;
-}
-
-// A person reads a terminal: it shows each message once a second. Files and pipes get all of them.
-// What was held back is told when the message is next shown.
-bool IsHeldBack(const char* tag, char* text, size_t length, size_t room) {
-    static const bool isTerminal = isatty(STDERR_FILENO) == 1;
-    if (!isTerminal) {
-        return false;
-    }
-    thread_local LogRepeats repeats;
-    const std::uint64_t message = Hash(Hash(0xCBF29CE484222325U, tag), text);
-    const LogRepeats::Verdict verdict = repeats.Judge(message, Milliseconds());
-    if (verdict.heldBack != 0) {
-        length -= length != 0 && text[length - 1] == '\n' ? 1 : 0;
-        snprintf(text + length, room - length, " (and %u times more)", verdict.heldBack);
-    }
-    return !verdict.isShown;
-}
-
 } // namespace
 
 extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, ...) {
@@ -99,14 +61,7 @@ extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, .
     va_start(args, fmt);
     const int length = vsnprintf(text, sizeof(text), fmt, args);
     va_end(args);
-    if (length < 0) {
-        return length;
-    }
-    const size_t shownLength = std::min(static_cast<size_t>(length), maxMessage);
-    if (IsHeldBack(shownTag, text, shownLength, sizeof(text))) {
-        return 0;
-    }
-    return WriteMessage(prio, shownTag, text);
+    return length < 0 ? length : WriteMessage(prio, shownTag, text);
 }
 
 #endif

@@ -15,10 +15,6 @@
 /// entries for one tag the later holds; one whose priority is none of these is passed over. The
 /// default is "*:V". A message that is not shown is not formatted.
 ///
-/// Where stderr is a terminal, a message is shown at most once a second, so that one which every frame
-/// repeats leaves the others readable: "(and 59 times more)" tells how often it came since. The last
-/// 32 different messages are known that way.
-///
 /// Messages longer than 4,000 bytes are cut.
 /// @return the number of bytes written, 0 for a message not shown, or a negative number
 // NOLINTBEGIN(bugprone-reserved-identifier): the platform's own name

@@ -1,13 +1,10 @@
 #include "platform/Log.h"
 
-#include <cerrno>
 #include <cstdlib>
-#include <ctime>
 #include <fcntl.h>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -15,9 +12,6 @@
 namespace {
 
 using Writes = std::vector<std::string>;
-
-bool isStderrATerminal = false;
-bool hasCoarseClock = true;
 
 // Runs `action` in a process of its own, since the filter is read once, and returns what it wrote
 // to stderr, a string a write: a pipe in packet mode keeps them apart.
@@ -44,20 +38,6 @@ Writes Log(const char* filter, const std::function<bool()>& action) {
 }
 
 } // namespace
-
-// Stands before the C library's: not every machine that runs tests has terminals to open.
-extern "C" int isatty(int) noexcept {
-    return isStderrATerminal ? 1 : 0;
-}
-
-// Not every C library knows the coarse clock.
-extern "C" int clock_gettime(clockid_t clock, timespec* time) noexcept {
-    if (clock == CLOCK_MONOTONIC_COARSE && !hasCoarseClock) {
-        errno = EINVAL;
-        return -1;
-    }
-    return static_cast<int>(syscall(SYS_clock_gettime, clock, time));
-}
 
 TEST(LogTest, WritesEachLineOfAMessageAtOnce) {
     const std::string longTag(70, 't');
@@ -106,24 +86,4 @@ TEST(LogTest, NeitherFormatsNorWritesWhatTheFilterReadOnceDrops) {
         return isRight && __android_log_print(5, "Tag", "lost") < 0;
     });
     EXPECT_EQ(writes, Writes{"W/Tag: 7\n"});
-}
-
-TEST(LogTest, KeepsATerminalReadable) {
-    const auto logAgain = [] {
-        for (int i = 0; i < 100; ++i) {
-            __android_log_print(LogError, "Tag", "again %d\n", i % 2);
-        }
-        usleep(1100000);
-        __android_log_print(LogError, "Tag", "again %d\n", 1);
-        return true;
-    };
-    const Writes readable = {"E/Tag: again 0\n", "E/Tag: again 1\n",
-                             "E/Tag: again 1 (and 49 times more)\n"};
-    isStderrATerminal = true;
-    EXPECT_EQ(Log("", logAgain), readable);
-    hasCoarseClock = false;
-    EXPECT_EQ(Log("", logAgain), readable);
-    hasCoarseClock = true;
-    isStderrATerminal = false;
-    EXPECT_EQ(Log("", logAgain).size(), 101U);
 }
