@@ -61,8 +61,8 @@ void DeleteObjects(const tagFrameBuffObject& slot) {
     }
 }
 
-// The first of the slots from `slot` up to `end` with that handle, or `end`. The mark of a free slot
-// is a number that a client can pass, too: it must find nothing.
+// The first of the slots from `slot` up to `end` with that handle, or `end`. A client can pass
+// ZO_NO_HANDLE, which marks free slots: it never matches.
 template <typename Slot>
 Slot* FindSlot(unsigned int handle, Slot* slot, Slot* end) {
     if (handle == ZO_NO_HANDLE) {
@@ -91,10 +91,7 @@ FBOManager::~FBOManager() {
 
 int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int format,
                             bool reuseHandle) {
-    int free = firstBufferSlot;
-    while (free < slotCount && slots[free].handle != ZO_NO_HANDLE) {
-        ++free;
-    }
+    const int free = FreeSlot();
     if (free == slotCount) {
         __android_log_print(LogError, tag, "num of the FBO more than max num %d \n", slotCount);
         return ZO_NO_FREE_FBO;
@@ -106,11 +103,11 @@ int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int for
     UnbindTarget();
 
     if (!reuseHandle) {
-        *handle = NewHandle(free);
+        *handle = NewHandle();
     }
     slot.handle = *handle;
     if (slot.framebuffer == 0) {
-        // Drawing would go to the window: a target without extent keeps it from leaving a mark.
+        // Drawing would go to the window: with a target of size 0 it has no effect.
         slot.width = 0;
         slot.height = 0;
         return ZO_SUCCESS;
@@ -121,12 +118,24 @@ int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int for
     return ZO_SUCCESS;
 }
 
-// The number of the slot, unless a buffer that was created again in another slot holds it. There
-// are as many numbers as slots, so one is always left.
-unsigned int FBOManager::NewHandle(int slot) const {
-    unsigned int handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(slot);
-    const tagFrameBuffObject* const end = std::end(slots);
-    for (int i = firstBufferSlot; FindSlot(handle, slots + firstBufferSlot, end) != end; ++i) {
+int FBOManager::FreeSlot() const {
+    int slot = firstBufferSlot;
+    while (slot < slotCount && slots[slot].handle != ZO_NO_HANDLE) {
+        ++slot;
+    }
+    return slot;
+}
+
+unsigned int FBOManager::NewHandle(const TagFboInfo* recorded, const TagFboInfo* end) const {
+    const auto isUsed = [&](unsigned int handle) {
+        return FindSlot(handle, std::begin(slots), std::end(slots)) != std::end(slots) ||
+               FindSlot(handle, recorded, end) != end;
+    };
+    unsigned int handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(FreeSlot());
+    for (int i = firstBufferSlot; isUsed(handle); ++i) {
+        if (i == slotCount) {
+            return NewHandle(end, end);
+        }
         handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(i);
     }
     return handle;

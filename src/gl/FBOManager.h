@@ -38,6 +38,13 @@ public:
     /// @return ZO_SUCCESS, or ZO_NO_FREE_FBO, with `*handle` untouched
     int GLCreateFBO(unsigned int* handle, int width, int height, int format, bool reuseHandle);
 
+    /// Chooses the handle of the next buffer: the number of its slot, or else the lowest number, that
+    /// no buffer has and that is not recorded for one. If every number is recorded, only the buffers
+    /// count. Precondition: a slot is free.
+    /// @param recorded,end records of buffers that are to be created again
+    unsigned int NewHandle(const TagFboInfo* recorded = nullptr,
+                           const TagFboInfo* end = nullptr) const;
+
     /// Copies the target with that handle, the window included.
     /// @return whether there is one; `out` is untouched if not
     bool GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const;
@@ -57,7 +64,7 @@ public:
 private:
     static constexpr int slotCount = 16;
 
-    unsigned int NewHandle(int slot) const;
+    int FreeSlot() const;
 
     tagFrameBuffObject slots[slotCount];
 };

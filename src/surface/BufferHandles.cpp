@@ -5,6 +5,7 @@
 #include "surface/Results.h"
 
 #include <GLES2/gl2.h>
+#include <iterator>
 #include <new>
 
 // Puts a new pool in the place of the one there is.
@@ -46,18 +47,16 @@ int ZoGLDrawSurface::ZoCreateGLFBO(unsigned int* handle, unsigned int width, uns
         return code;
     }
     const int glFormat = static_cast<int>(ConvertFormatToGLES(format));
-    code = fboManager->GLCreateFBO(handle, static_cast<int>(width), static_cast<int>(height),
-                                   glFormat, false);
+    // A pool made while unbound lacks the recorded buffers, and would reissue their handles.
+    unsigned int number = fboManager->NewHandle(std::begin(fboInfo), std::end(fboInfo));
+    code = fboManager->GLCreateFBO(&number, static_cast<int>(width), static_cast<int>(height),
+                                   glFormat, true);
     if (code != ZO_SUCCESS) {
         __android_log_print(LogError, surfaceTag, "Create FBO fail %d\n", code);
         return ToError(code);
     }
-    // A pool that a drawing operation made while no window was bound holds none of the recorded
-    // buffers, so it can hand out one of their numbers, which means the new buffer from now on.
-    if (TagFboInfo* lost = FindFboInfo(*handle)) {
-        InitFBO(lost);
-    }
-    SaveFboInfo(*handle, static_cast<int>(width), static_cast<int>(height), glFormat);
+    *handle = number;
+    SaveFboInfo(number, static_cast<int>(width), static_cast<int>(height), glFormat);
     return ZO_SUCCESS;
 }
 

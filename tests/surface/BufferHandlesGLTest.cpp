@@ -70,17 +70,33 @@ TEST_F(BufferHandlesGLTest, RestoresRecordedBuffersClearedUnderTheirHandles) {
                             [&](unsigned int handle) { return IsThere(handle); }));
 }
 
-TEST_F(BufferHandlesGLTest, NamesNoBufferTwiceAfterDrawingWithoutAWindow) {
+TEST_F(BufferHandlesGLTest, KeepsRecordsAndTheirHandlesAfterDrawingWhileUnbound) {
     Bind();
-    const unsigned int lost = CreateBuffer(4, 3);
-    surface->ZoDestoryGLWindowSurface();
-    const tagZoRectInfo rect = {0, 0, 4, 4};
-    const tagZoColorRGBA color = {10, 20, 30, 40};
-    EXPECT_EQ(surface->ZoDrawRect(0x10000, &rect, &color), ZO_PROGRAM_FAILED);
-    Bind(); // which finds a pool and restores nothing
-    EXPECT_FALSE(IsThere(lost));
-    EXPECT_EQ(CreateBuffer(6, 5), lost);
-    EXPECT_EQ(Table(), "10001:6x5");
+    CreateBuffer(4, 3);
+    CreateBuffer(5, 3);
+    surface->ZoDestoryGLFBO(0x10001);
+    const auto drawUnbound = [&] {
+        surface->ZoDestoryGLWindowSurface();
+        const tagZoRectInfo rect = {0, 0, 4, 4};
+        const tagZoColorRGBA color = {10, 20, 30, 40};
+        EXPECT_EQ(surface->ZoDrawRect(0x10000, &rect, &color), ZO_PROGRAM_FAILED);
+        Bind(); // finds a pool and restores nothing
+    };
+    drawUnbound();
+    EXPECT_FALSE(IsThere(0x10002));
+    EXPECT_EQ(CreateBuffer(6, 5), 0x10001U);
+    EXPECT_EQ(CreateBuffer(7, 5), 0x10003U) << "2 is recorded";
+    EXPECT_EQ(Table(), "10001:6x5 10002:5x3 10003:7x5");
+    Rebind();
+    EXPECT_TRUE(IsThere(0x10001) && IsThere(0x10002) && IsThere(0x10003));
+
+    for (unsigned int handle = 0x10004; handle <= 0x1000F; ++handle) {
+        EXPECT_EQ(CreateBuffer(1, 1), handle);
+    }
+    drawUnbound();
+    EXPECT_EQ(CreateBuffer(8, 8), 0x10001U) << "every number is recorded";
+    EXPECT_EQ(CreateBuffer(8, 8), 0x10002U) << "of these, no buffer has 2";
+    EXPECT_EQ(Table().substr(0, 29), "10001:6x5 10002:5x3 10003:7x5");
 }
 
 TEST_F(BufferHandlesGLTest, ANewPoolByItsFlagReplacesTheOneThereIs) {
@@ -99,6 +115,7 @@ TEST_F(BufferHandlesGLTest, ABufferWithoutAFramebufferLeavesTheWindowAlone) {
     harness::FailCall("glGenFramebuffers");
     unsigned int handle = 0;
     EXPECT_EQ(surface->ZoCreateGLFBO(&handle, 4, 3, 9), ZO_SUCCESS);
+    EXPECT_TRUE(Target(handle).width == 0 && Target(handle).height == 0);
     const tagZoRectInfo rect = {0, 0, 4, 3};
     const tagZoColorRGBA color = {1, 1, 1, 1};
     EXPECT_EQ(surface->ZoDrawRect(handle, &rect, &color), ZO_SUCCESS);
