@@ -6,16 +6,6 @@
 #include "surface/Components.h"
 #include "surface/Conversions.h"
 
-namespace {
-
-constexpr char tag[] = "OSDBlit";
-
-bool IsWithinOneBuffer(const tagBlitInfo& info) {
-    return info.src.texture != 0 && info.src.texture == info.dst.texture;
-}
-
-} // namespace
-
 OSDBlit::OSDBlit() : program(0), vertexBuffer(0), texLocation(0), coordLocation(0) {}
 
 OSDBlit::~OSDBlit() {
@@ -23,31 +13,17 @@ OSDBlit::~OSDBlit() {
 }
 
 int OSDBlit::Init() {
-    return InitTexturedQuad(tag, shaderProgram, program, vertexBuffer, coordLocation, texLocation);
+    return InitTexturedQuad("OSDBlit", shaderProgram, program, vertexBuffer, coordLocation,
+                            texLocation);
 }
 
 void OSDBlit::Blit(const tagBlitInfo* info) const {
-    GLuint texture = info->src.texture;
-    const tagRectInfo* texRect = &info->srcRect;
-    RegionCopy copy;
-    const bool isCopied = IsWithinOneBuffer(*info);
-    if (isCopied) {
-        if (!CopyRegion(info->src, info->srcRect, &copy)) {
-            __android_log_print(LogError, tag, "Create texture fail\n");
-            return;
-        }
-        texture = copy.texture;
-        texRect = &copy.texRect;
-    }
     BindTarget(info->dst.framebuffer, info->dst.width, info->dst.height);
     glUseProgram(program);
-    BindSource(texture, texLocation);
-    BlitByDrawing(texRect, &info->dstRect);
+    BindSource(info->src.texture, texLocation);
+    BlitByDrawing(&info->srcRect, &info->dstRect);
     glBindTexture(GL_TEXTURE_2D, 0);
     UnbindTarget();
-    if (isCopied) {
-        glDeleteTextures(1, &texture);
-    }
 }
 
 void OSDBlit::BlitByDrawing(const tagRectInfo* texRect, const tagRectInfo* posRect) const {
@@ -86,6 +62,14 @@ int ZoGLDrawSurface::ZoBlit(const tagZoBlitInfo* info) {
                    static_cast<unsigned int>(blit.src.height), &blit.srcRect);
     ToVertexSpace(info->dstRect, static_cast<unsigned int>(blit.dst.width),
                   static_cast<unsigned int>(blit.dst.height), &blit.dstRect);
+    const bool isWithinOneBuffer = blit.src.texture != 0 && blit.src.texture == blit.dst.texture;
+    if (isWithinOneBuffer && !CopySource(&blit)) {
+        __android_log_print(LogError, surfaceTag, "Create texture fail\n");
+        return ZO_FAILURE;
+    }
     osdBlit->Blit(&blit);
+    if (isWithinOneBuffer) {
+        glDeleteTextures(1, &blit.src.texture);
+    }
     return ZO_SUCCESS;
 }

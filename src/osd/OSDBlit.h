@@ -15,7 +15,7 @@ struct tagBlitInfo {
     tagRectInfo dstRect; ///< region to write, in the destination's vertex space
 };
 
-/// Draws a region of one buffer into another, or into itself, without blending.
+/// Draws a region of one buffer into another, without blending.
 class ZOGLES_API OSDBlit {
 public:
     OSDBlit();
@@ -28,8 +28,8 @@ public:
     /// @return ZO_SUCCESS or ZO_PROGRAM_FAILED
     int Init();
 
-    /// Copies. Within one buffer it copies by way of a temporary texture, since GL leaves undefined
-    /// what comes of sampling the texture that is drawn into.
+    /// Copies. Precondition: source and destination are different textures, because sampling the
+    /// texture that is drawn into is undefined in GL.
     void Blit(const tagBlitInfo* info) const;
 
     /// Draws the quad from the bound texture into the bound target.

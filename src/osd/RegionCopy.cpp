@@ -33,25 +33,24 @@ float Rescale(float extent, int size, Span span) {
 
 } // namespace
 
-bool CopyRegion(const tagFrameBuffObject& buffer, const tagRectInfo& texRect, RegionCopy* copy) {
+bool CopySource(tagBlitInfo* blit) {
     const GLuint texture = GenerateTexture(GL_TEXTURE0);
     if (texture == 0) {
         return false;
     }
-    const Span columns =
-        TouchedPixels(texRect.x, texRect.x + texRect.width, std::max(buffer.width, 1));
-    const Span rows =
-        TouchedPixels(texRect.y - texRect.height, texRect.y, std::max(buffer.height, 1));
-    glBindFramebuffer(GL_FRAMEBUFFER, buffer.framebuffer);
+    const int width = blit->src.width;
+    const int height = blit->src.height;
+    const tagRectInfo rect = blit->srcRect;
+    const Span columns = TouchedPixels(rect.x, rect.x + rect.width, std::max(width, 1));
+    const Span rows = TouchedPixels(rect.y - rect.height, rect.y, std::max(height, 1));
+    glBindFramebuffer(GL_FRAMEBUFFER, blit->src.framebuffer);
     glBindTexture(GL_TEXTURE_2D, texture);
     glCopyTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, columns.start, rows.start, columns.length,
                      rows.length, 0);
     FilterLinear();
     ClampToEdge();
-    copy->texture = texture;
-    copy->texRect = {Rebase(texRect.x, buffer.width, columns),
-                     Rebase(texRect.y, buffer.height, rows),
-                     Rescale(texRect.width, buffer.width, columns),
-                     Rescale(texRect.height, buffer.height, rows)};
+    blit->src.texture = texture;
+    blit->srcRect = {Rebase(rect.x, width, columns), Rebase(rect.y, height, rows),
+                     Rescale(rect.width, width, columns), Rescale(rect.height, height, rows)};
     return true;
 }

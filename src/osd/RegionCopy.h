@@ -1,23 +1,16 @@
 /// @file
-/// A region of a buffer, set aside while the buffer is drawn into.
+/// The temporary copy that a blit within one buffer reads from.
 #ifndef ZOGLES_OSD_REGIONCOPY_H
 #define ZOGLES_OSD_REGIONCOPY_H
 
-#include "gl/FBOManager.h"
-#include "surface/Records.h"
+#include "osd/OSDBlit.h"
 
-/// Where to read a region from.
-struct RegionCopy {
-    GLuint texture;
-    tagRectInfo texRect; ///< the region, in that texture's texture space
-};
-
-/// Copies the pixels that sampling the region `texRect` of a buffer can touch, neighbours for the
-/// linear filter included, into a new texture. Sampled there, the region gives what it gives in the
-/// buffer, past its edges too: exactly at its own size, to within rounding when scaled. The texture
-/// is the caller's to delete.
-/// Leaves the buffer's framebuffer bound, texture unit 0 active and the new texture bound.
-/// @return false when there is no texture to be had; only unit 0 is active then
-bool CopyRegion(const tagFrameBuffObject& buffer, const tagRectInfo& texRect, RegionCopy* copy);
+/// Copies the source's pixels that the blit can sample, including the neighbours that the linear
+/// filter needs, into a new texture, and makes the blit read from it: `src.texture` and `srcRect`
+/// change. The result is what the buffer would give, past its edges too: exact at the region's own
+/// size, within rounding when scaled. The caller deletes the texture.
+/// Leaves the source's framebuffer, texture unit 0 and the new texture bound.
+/// @return false when no texture name is available; the blit is unchanged, and unit 0 is active
+bool CopySource(tagBlitInfo* blit);
 
 #endif

@@ -1,5 +1,7 @@
 #include "OSDFixture.h"
 
+#include <algorithm>
+
 namespace {
 
 class OSDBlitGLTest : public OSDFixture {};
@@ -68,13 +70,30 @@ TEST_F(OSDBlitGLTest, ScrollsABufferOfFullSize) {
     EXPECT_TRUE(Matches(Read(buffer), Drawn(large, WholeOf(large), to, Of(large))));
 }
 
-TEST_F(OSDBlitGLTest, DrawsNothingWithoutATextureToCopyThrough) {
+TEST_F(OSDBlitGLTest, CopiesNothingWithinABufferOfSizeZero) {
+    Bind();
+    for (const auto& [width, height] : {std::pair{0U, 5U}, std::pair{5U, 0U}}) {
+        const unsigned int buffer = CreateBuffer(width, height);
+        const auto calls = harness::Record([&] {
+            Blit(buffer, buffer, {1, 1, 3, 3}, {0, 0, 3, 3});
+        });
+        EXPECT_EQ(
+            std::count(calls.begin(), calls.end(),
+                       harness::Call("glCopyTexImage2D", GL_TEXTURE_2D, 0, GL_RGBA, 0, 0, 1, 1, 0)),
+            1);
+        ExpectStateAfterDraw(GL_TEXTURE0);
+        ExpectGlError(GL_INVALID_FRAMEBUFFER_OPERATION);
+    }
+}
+
+TEST_F(OSDBlitGLTest, FailsWithinOneBufferWithoutATextureForTheCopy) {
     Bind();
     const unsigned int buffer = CreateBuffer(picture);
     ASSERT_EQ(surface->Init(ZO_COMPONENT_BLIT), ZO_SUCCESS);
     harness::FailCall("glGenTextures");
-    Blit(buffer, buffer, {0, 0, 20, 20}, {10, 10, 20, 20});
-    EXPECT_EQ(harness::TakeLog(), (Log{{6, "OSDBlit", "Create texture fail\n"}}));
+    const tagZoBlitInfo info = {buffer, buffer, {0, 0, 20, 20}, {10, 10, 20, 20}};
+    EXPECT_EQ(surface->ZoBlit(&info), ZO_FAILURE);
+    EXPECT_EQ(harness::TakeLog(), (Log{{6, "ZoGLDrawSurface", "Create texture fail\n"}}));
     EXPECT_TRUE(Matches(Read(buffer), Of(picture)));
     ExpectStateAfterDraw(GL_TEXTURE0);
     Blit(buffer, buffer, {0, 0, 20, 20}, {10, 10, 20, 20});
