@@ -15,7 +15,8 @@ int BuildProgram(const char* tag, const char* vertexSource, const char* fragment
     return ZO_SUCCESS;
 }
 
-void ReleaseObjects(std::unique_ptr<ShaderProgram>& helper, GLuint& program, GLuint& vertexBuffer) {
+void ReleaseObjects(const std::unique_ptr<ShaderProgram>& helper, GLuint& program,
+                    GLuint& vertexBuffer) {
     if (vertexBuffer != 0) {
         glDeleteBuffers(1, &vertexBuffer);
         vertexBuffer = 0;
@@ -23,6 +24,5 @@ void ReleaseObjects(std::unique_ptr<ShaderProgram>& helper, GLuint& program, GLu
     if (helper) {
         helper->ReleaseProgram(program);
         program = 0;
-        helper.reset();
     }
 }

@@ -13,8 +13,9 @@
 int BuildProgram(const char* tag, const char* vertexSource, const char* fragmentSource,
                  std::unique_ptr<ShaderProgram>& helper, GLuint& program);
 
-/// Deletes buffer and program, those that exist, and destroys the helper. Harmless after the
-/// context is gone.
-void ReleaseObjects(std::unique_ptr<ShaderProgram>& helper, GLuint& program, GLuint& vertexBuffer);
+/// Deletes buffer and program, those that exist. Harmless after the context is gone. The helper
+/// stays: members are destroyed in a fixed order, which has it later.
+void ReleaseObjects(const std::unique_ptr<ShaderProgram>& helper, GLuint& program,
+                    GLuint& vertexBuffer);
 
 #endif

@@ -32,8 +32,11 @@ void WalkText(FT_Face face, const tagTextInfo& info, Visit visit) {
 FontStyleAtlas::FontStyleAtlas()
     : face(nullptr), library(nullptr), texture(0), width(0), height(0) {}
 
+// The map is destroyed last, so the texture is not deleted by `DeleteTexture`, which clears it.
 FontStyleAtlas::~FontStyleAtlas() {
-    DeleteTexture();
+    if (texture != 0) {
+        glDeleteTextures(1, &texture);
+    }
     CloseFace(library, face);
 }
 

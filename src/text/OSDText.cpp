@@ -33,10 +33,9 @@ OSDText::OSDText(std::shared_ptr<FontAtlas> standardAtlas,
       vertexBuffer(0), fontTexture(0), fontTexWidth(0), fontTexHeight(0), texLocation(0),
       coordLocation(0), colorLocation(0), scaleX(0.0f), scaleY(0.0f) {}
 
+// The members follow in reverse order: map, helper, styled atlas, standard atlas.
 OSDText::~OSDText() {
     ReleaseObjects(shaderProgram, program, vertexBuffer);
-    fontStyleAtlas.reset();
-    fontAtlas.reset();
 }
 
 int OSDText::Init() {

@@ -45,9 +45,10 @@ public:
     /// Builds the quads of `length` units with the pen starting at (x, y), uploads and draws them.
     /// @param x,y vertex space; y is the baseline
     /// @pre vertices, program, texture, target and blending are set up
+    /// @throws std::bad_alloc when memory for the vertices is refused; nothing is drawn then
     void GLDrawText(const char16_t* text, unsigned int length, float x, float y);
 
-    /// `GLDrawText` with the vertices bound before and unbound after.
+    /// `GLDrawText` with the vertices bound before and unbound after. Refused memory is logged.
     void RenderText(const char16_t* text, unsigned int length, float x, float y);
 
     /// Draws a request into a target with the pen starting at (x, y).
@@ -57,7 +58,7 @@ public:
     int DrawText(const tagFrameBuffObject* fbo, const tagTextInfo* info, float x, float y);
 
 private:
-    int DrawUnits(const char16_t* text, unsigned int length, float x, float y);
+    int TryGLDrawText(const char16_t* text, unsigned int length, float x, float y);
     void UploadAndDraw(const char16_t* text, unsigned int length, float x, float y,
                        Vertex* scratch);
     size_t PlaceGlyphs(const char16_t* text, unsigned int length, float x, float y,

@@ -80,7 +80,7 @@ int OSDText::DrawText(const tagFrameBuffObject* fbo, const tagTextInfo* info, fl
     glBindTexture(GL_TEXTURE_2D, fontTexture);
     glUniform1i(texLocation, static_cast<GLint>(unit - GL_TEXTURE0));
     BindVertices(coordLocation, vertexBuffer);
-    code = DrawUnits(info->text, info->length, x, y);
+    code = TryGLDrawText(info->text, info->length, x, y);
     UnbindVertices(coordLocation);
     glDisable(GL_BLEND);
     glBindTexture(GL_TEXTURE_2D, 0);
@@ -90,27 +90,26 @@ int OSDText::DrawText(const tagFrameBuffObject* fbo, const tagTextInfo* info, fl
 
 void OSDText::RenderText(const char16_t* text, unsigned int length, float x, float y) {
     BindVertices(coordLocation, vertexBuffer);
-    GLDrawText(text, length, x, y);
+    TryGLDrawText(text, length, x, y);
     UnbindVertices(coordLocation);
 }
 
-void OSDText::GLDrawText(const char16_t* text, unsigned int length, float x, float y) {
-    DrawUnits(text, length, x, y);
-}
-
-// Finds scratch room for the vertices and draws, or draws nothing.
-int OSDText::DrawUnits(const char16_t* text, unsigned int length, float x, float y) {
+int OSDText::TryGLDrawText(const char16_t* text, unsigned int length, float x, float y) {
     try {
-        if (length <= unitsOnStack) {
-            Vertex scratch[unitsOnStack * verticesPerUnit];
-            UploadAndDraw(text, length, x, y, scratch);
-        } else {
-            const std::unique_ptr<Vertex[]> scratch = AllocateVertices(length);
-            UploadAndDraw(text, length, x, y, scratch.get());
-        }
+        GLDrawText(text, length, x, y);
         return ZO_SUCCESS;
     } catch (const std::bad_alloc&) {
         return RefuseMemory(textTag);
+    }
+}
+
+void OSDText::GLDrawText(const char16_t* text, unsigned int length, float x, float y) {
+    if (length <= unitsOnStack) {
+        Vertex scratch[unitsOnStack * verticesPerUnit];
+        UploadAndDraw(text, length, x, y, scratch);
+    } else {
+        const std::unique_ptr<Vertex[]> scratch = AllocateVertices(length);
+        UploadAndDraw(text, length, x, y, scratch.get());
     }
 }
 
