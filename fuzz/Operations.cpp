@@ -134,9 +134,8 @@ private:
         isCertain = false;
         const int nth = input.ConsumeIntegralInRange(1, 12);
         const int kind = input.ConsumeIntegralInRange(0, 4);
-        if (kind == 0) { // a small driver, short of memory
+        if (kind == 0) { // a small driver
             harness::Current().maxTextureSize = 100 * nth;
-            harness::Current().glError = GL_OUT_OF_MEMORY;
         } else if (kind <= 2) {
             harness::RefuseAllocation(nth);
         } else {

@@ -17,6 +17,7 @@ constexpr unsigned int windowWidth = 160;
 constexpr unsigned int windowHeight = 120;
 constexpr int charactersOfFont = 300;
 constexpr FT_Pos largestGlyph = 2048; // pixels a side
+constexpr FT_ULong lastCharacter = 0x10FFFF;
 
 int messages = STDERR_FILENO;
 
@@ -97,7 +98,12 @@ void RequireNothingLeft(std::unique_ptr<ZoGLDrawSurface> surface) {
 
 void LimitFreeType() {
     UseFirst(charactersOfFont);
-    harness::Current().loadChar = LoadUnlessHuge;
+    harness::State& state = harness::Current();
+    state.loadChar = LoadUnlessHuge;
+    state.nextChar = [next = state.nextChar](FT_Face face, FT_ULong code, FT_UInt* index) {
+        Require(code <= lastCharacter, "characters above Unicode", static_cast<long long>(code));
+        return next(face, code, index);
+    };
 }
 
 } // namespace fuzz

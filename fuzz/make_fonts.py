@@ -5,12 +5,15 @@ Every font ends with a few zero bytes that belong to no format: the target takes
 file's end.
 """
 import os
+import struct
 import sys
 
 from fontTools.fontBuilder import FontBuilder
 from fontTools.pens.t2CharStringPen import T2CharStringPen
+from fontTools.pens.ttGlyphPen import TTGlyphPen
 from fontTools.subset import Options, Subsetter
 from fontTools.ttLib import TTFont
+from fontTools.ttLib.tables.DefaultTable import DefaultTable
 
 SOURCE = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf"
 TEXT = "Ag&1 \u00c9\U00010300"  # one that is a composite, one beyond the basic plane
@@ -75,13 +78,39 @@ def write_bitmap(path):
         file.write("\n".join(lines + ["ENDFONT", ""]))
 
 
+def write_endless(path):
+    """A square for A, for the last code points of Unicode, and for all 32-bit numbers above them."""
+    pen = TTGlyphPen(None)
+    pen.moveTo((0, 0))
+    for point in ((0, 500), (500, 500), (500, 0)):
+        pen.lineTo(point)
+    pen.closePath()
+    square = pen.glyph()
+    builder = FontBuilder(1000, isTTF=True)
+    builder.setupGlyphOrder([".notdef", "A"])
+    builder.setupGlyf({".notdef": square, "A": square})
+    builder.setupHorizontalMetrics({".notdef": (600, 0), "A": (600, 0)})
+    builder.setupHorizontalHeader(ascent=800, descent=-200)
+    # One subtable of format 13, which maps each group of codes to one glyph.
+    groups = [(ord("A"), ord("A"), 1), (0x10FFF0, 0xFFFFFFFE, 1)]
+    cmap = DefaultTable("cmap")
+    cmap.data = (struct.pack(">HHHHL", 0, 1, 3, 10, 12) +
+                 struct.pack(">HHLLL", 13, 0, 16 + 12 * len(groups), 0, len(groups)) +
+                 b"".join(struct.pack(">LLL", *group) for group in groups))
+    builder.font["cmap"] = cmap
+    builder.font["head"].created = builder.font["head"].modified = 0
+    builder.font.recalcTimestamp = False
+    builder.save(path)
+
+
 def main():
     paths = [os.path.join(FOLDER, name)
-             for name in ("truetype.ttf", "postscript.otf", "bitmap.bdf")]
+             for name in ("truetype.ttf", "postscript.otf", "bitmap.bdf", "endless.ttf")]
     truetype = subset(sys.argv[1] if len(sys.argv) > 1 else SOURCE)
     write_postscript(truetype, paths[1])
     truetype.save(paths[0])
     write_bitmap(paths[2])
+    write_endless(paths[3])
     for path in paths:
         with open(path, "ab") as file:
             file.write(bytes(CHOICES))

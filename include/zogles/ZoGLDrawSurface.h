@@ -164,8 +164,8 @@ struct TagFboInfo {
 ///
 /// No operation throws. Where memory is refused, the operation logs a line and returns
 /// ZO_FAILURE, or ZO_PROGRAM_FAILED if it was to build a program.
-/// An operation that fails draws nothing. What the driver cannot find memory for, it does not tell:
-/// such a bitmap or buffer shows as opaque black.
+/// An operation that fails draws nothing. Drivers do not report exhausted memory: such a bitmap or
+/// buffer shows as opaque black, and such a glyph as a solid rectangle.
 ///
 /// A frame, with the result codes left out:
 /// @code
@@ -300,7 +300,7 @@ public:
     /// Loads a font file for all text drawn from now on. Without it, the first text operation loads
     /// the platform's default font at 40 pixels. A loaded font is dropped with the window.
     /// @param path a file of any format that FreeType opens; the path is not kept, but the file
-    ///     stays open and mapped until another font is loaded, so it must not be cut short meanwhile
+    ///     stays open and mapped until another font is loaded: replace it by renaming, never in place
     /// @param size glyph height in pixels for text of the standard style (40, neither bold nor
     ///     italic) and for measuring; 0 means 40
     /// @pre the surface is bound

@@ -7,11 +7,15 @@
 
 namespace {
 
+// The last code point of Unicode. A damaged or hostile character map can go on to 0xFFFFFFFF, and
+// loading four thousand million characters would take hours.
+constexpr FT_ULong lastCharacter = 0x10FFFF;
+
 // Calls `visit` with every character that the face maps, rendered, in ascending order.
 template <typename Visit>
 void WalkFace(FT_Face face, Visit visit) {
     FT_UInt index = 0;
-    for (FT_ULong code = FT_Get_First_Char(face, &index); index != 0;
+    for (FT_ULong code = FT_Get_First_Char(face, &index); index != 0 && code <= lastCharacter;
          code = FT_Get_Next_Char(face, code, &index)) {
         if (FT_Load_Char(face, code, FT_LOAD_RENDER) != 0) {
             __android_log_print(LogError, standardAtlas.tag, "Loading character %lu failed!\n",

@@ -14,9 +14,6 @@
 
 namespace {
 
-// The rows of an atlas are up to 1,023 pixels wide; most have no more of them than that.
-constexpr unsigned int ordinarySide = 1024;
-
 void Upload(unsigned int x, unsigned int y, const FT_Bitmap& bitmap, const void* coverage) {
     glTexSubImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(x), static_cast<GLint>(y),
                     static_cast<GLsizei>(bitmap.width), static_cast<GLsizei>(bitmap.rows), GL_ALPHA,
@@ -73,13 +70,6 @@ struct ConvertedBitmap {
     FT_Bitmap bitmap;
 };
 
-// Errors of earlier calls hide the next one's. There are as many flags as kinds of error.
-void ForgetGlErrors() {
-    constexpr int errorKinds = 5;
-    for (int i = 0; i < errorKinds && glGetError() != GL_NO_ERROR; ++i) {
-    }
-}
-
 // Pen advances are 26.6 fixed point; 32 bits of them count.
 float WholePixels(FT_Pos advance) {
     return static_cast<float>(static_cast<std::uint32_t>(advance) >> 6);
@@ -90,11 +80,6 @@ float WholePixels(FT_Pos advance) {
 bool TextureLimit::Fits(unsigned int width, unsigned int height) {
     const unsigned int side = std::max(width, height);
     return side <= trusted || side <= Largest();
-}
-
-bool TextureLimit::IsReached(unsigned int width, unsigned int height) {
-    const unsigned int side = std::max(width, height);
-    return side > ordinarySide && side >= Largest();
 }
 
 void TextureLimit::Cut(unsigned int& width, unsigned int& height) {
@@ -120,18 +105,7 @@ GLuint CreateGlyphTexture(const AtlasKind& kind, unsigned int width, unsigned in
         return 0;
     }
     glBindTexture(GL_TEXTURE_2D, texture);
-    // The largest texture that the driver knows can be more than it has memory for.
-    const bool isLargest = TextureLimit(kind).IsReached(width, height);
-    if (isLargest) {
-        ForgetGlErrors();
-    }
     AllocateTexture(GL_ALPHA, static_cast<GLsizei>(width), static_cast<GLsizei>(height), nullptr);
-    if (isLargest && glGetError() == GL_OUT_OF_MEMORY) {
-        __android_log_print(LogError, kind.tag, "Create texture fail\n");
-        glBindTexture(GL_TEXTURE_2D, 0);
-        glDeleteTextures(1, &texture);
-        return 0;
-    }
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     ClampToEdge();
     FilterLinear();

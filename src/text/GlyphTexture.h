@@ -33,10 +33,6 @@ public:
 
     bool Fits(unsigned int width, unsigned int height);
 
-    /// Whether a texture goes beyond the rows of an ordinary atlas and is as large as the driver can
-    /// make it.
-    bool IsReached(unsigned int width, unsigned int height);
-
     /// Cuts a texture size down to what the driver can make.
     void Cut(unsigned int& width, unsigned int& height);
 
@@ -48,7 +44,8 @@ private:
 };
 
 /// Creates a texture of one coverage byte a texel, without defined content, and leaves it bound on
-/// the kind's unit. Logs when there is none to be had.
+/// the kind's unit. Logs when the driver has no name for it. Exhausted driver memory is not detected,
+/// because asking for GL errors would take a client's pending ones.
 /// @return its name, or 0
 GLuint CreateGlyphTexture(const AtlasKind& kind, unsigned int width, unsigned int height);
 

@@ -166,7 +166,7 @@ Rows ProgramRows() {
     const Step expectNoCall = [](C& c) { EXPECT_TRUE(c.calls.empty()); };
     const Step neitherKind = And(Fail("glCompileShader"), Fail("glIsShader"));
     const Step noMemoryForLog = And(Fail("glCompileShader"), RefuseAllocation(3));
-    const Step noLocation = [](C&) { harness::Current().location = -1; };
+    const Step noLocation = [](C&) { harness::Current().locate = [](const auto&) { return -1; }; };
     const Step expectNoLocation = [](C& c) {
         const OSDText& text = *c.surface->osdText;
         EXPECT_TRUE(text.coordLocation == -1 && text.texLocation == -1 && text.colorLocation == -1);

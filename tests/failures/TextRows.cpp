@@ -38,13 +38,6 @@ Step Show(const std::vector<FakeGlyph>& glyphs) {
     return [=](C&) { UseFakeFont(glyphs); };
 }
 
-// A driver may have no memory for the largest texture that it knows.
-void RefuseLargestTexture(C&) {
-    UseFakeFont({{65, 1000, 1200}, {66, 1000, 1200}});
-    harness::Current().maxTextureSize = 2048;
-    harness::Current().glError = GL_OUT_OF_MEMORY;
-}
-
 // Why the standard atlas cannot be made of a font.
 const struct {
     std::string condition;
@@ -61,7 +54,6 @@ const struct {
      "Calculate texture width 7d, height 0d\n"},
     {"no_character", Show({}), ZO_FONT_ATLAS_EMPTY, emptyAtlas},
     {"no_texture", Fail("glGenTextures"), ZO_FAILURE, noTexture},
-    {"no_texture_memory", RefuseLargestTexture, ZO_FAILURE, noTexture},
 };
 
 // Drawing goes on with what there is, and never hands FreeType a null face.

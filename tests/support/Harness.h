@@ -74,10 +74,9 @@ struct State {
     std::optional<int> framebufferStatus; ///< for glCheckFramebufferStatus
     std::optional<int> maxTextureSize;    ///< for glGetIntegerv
     std::optional<int> infoLogLength;     ///< for glGetShaderiv and glGetProgramiv
-    std::optional<int> glError;           ///< for glGetError
-    std::optional<int> location;          ///< for glGetAttribLocation and glGetUniformLocation
     std::string fontFile;                 ///< for FT_New_Face, unless empty
 
+    std::function<int(const std::string&)> locate; ///< for glGet{Attrib,Uniform}Location
     std::function<FT_Error(FT_Face, FT_ULong, FT_Int32)> loadChar;
     std::function<FT_ULong(FT_Face, FT_UInt*)> firstChar;
     std::function<FT_ULong(FT_Face, FT_ULong, FT_UInt*)> nextChar;

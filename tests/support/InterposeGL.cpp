@@ -29,6 +29,7 @@ PASS_ON(void, glGetProgramInfoLog, (GLuint program, GLsizei size, GLsizei* lengt
         (program, size, length, text))
 PASS_ON(void, glGetShaderInfoLog, (GLuint shader, GLsizei size, GLsizei* length, GLchar* text),
         (shader, size, length, text))
+PASS_ON(GLenum, glGetError, (), ())
 PASS_ON(const GLubyte*, glGetString, (GLenum name), (name))
 PASS_ON(GLboolean, glIsProgram, (GLuint program), (program))
 PASS_ON(GLboolean, glIsShader, (GLuint shader), (shader))
@@ -76,12 +77,6 @@ extern "C" void glShaderSource(GLuint shader, GLsizei count, const GLchar* const
     real(shader, count, strings, lengths);
 }
 
-extern "C" GLenum glGetError() {
-    INTERPOSE(glGetError, ());
-    const GLenum error = real();
-    return static_cast<GLenum>(harness::Current().glError.value_or(static_cast<int>(error)));
-}
-
 extern "C" GLenum glCheckFramebufferStatus(GLenum target) {
     INTERPOSE(glCheckFramebufferStatus, (target));
     const GLenum status = isFailing ? 0 : real(target);
@@ -118,7 +113,8 @@ QUERY(glGetProgramiv)
 #define LOCATE(name)                                                                               \
     extern "C" GLint name(GLuint program, const GLchar* variable) {                                \
         INTERPOSE(name, (program, variable));                                                      \
-        return isFailing ? -1 : harness::Current().location.value_or(real(program, variable));     \
+        const auto& locate = harness::Current().locate;                                            \
+        return isFailing ? -1 : locate ? locate(variable) : real(program, variable);               \
     }
 LOCATE(glGetAttribLocation)
 LOCATE(glGetUniformLocation)

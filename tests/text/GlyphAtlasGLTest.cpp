@@ -59,6 +59,13 @@ TEST_F(GlyphAtlasGLTest, PlacesAndRecordsWhatFits) {
         {tall, 1500, "1001 x 1500 (1466 kb)", " 65:0,0 66:0,600", {oneOut}},
         {{{65, 200, 100}, {66, 200, 100}}, 256, "256 x 100 (25 kb)", " 65:0,0", {oneOut}},
         {huge, 1500, "6 x 1500 (8 kb)", " 65:0,0 68:2,0", {twoOut}},
+        // As wide or as tall as the limit, and a pixel more.
+        {{{65, 256, 9}, {66, 257, 8}}, 256, "256 x 9 (2 kb)", " 65:0,0", {oneOut}},
+        {{{65, 9, 256}, {66, 8, 257}}, 256, "10 x 256 (2 kb)", " 65:0,0", {oneOut}},
+        {{{65, 64, 9}, {66, 65, 8}}, 64, "64 x 9 (0 kb)", " 65:0,0", {oneOut}},
+        {{{65, 9, 64}, {66, 8, 65}}, 64, "10 x 64 (0 kb)", " 65:0,0", {oneOut}},
+        // Unicode ends at 0x10FFFF, whatever the font maps above it.
+        {{{0x10FFFF, 4, 3}, {0x110000, 4, 3}}, {}, "5 x 3 (0 kb)", " 1114111:0,0", {}},
         {tall, untold, "1001 x 1800 (1759 kb)", " 65:0,0 66:0,600 67:0,1200", {}},
     };
     for (const auto& c : cases) {
@@ -67,7 +74,9 @@ TEST_F(GlyphAtlasGLTest, PlacesAndRecordsWhatFits) {
         for (int i = 1; c.limit == untold && i <= 50; ++i) {
             harness::FailCall("glGetIntegerv", i);
         }
+        glEnable(GL_NONE); // an error that the client has not asked for yet
         EXPECT_EQ(surface->ZoLoadFont(sansPath, 40), ZO_SUCCESS);
+        ExpectGlError(GL_INVALID_ENUM);
         Log log;
         for (const std::string& error : c.errors) {
             log.push_back({6, "FontAtlas", error});
