@@ -128,6 +128,7 @@ TEST_F(FBOManagerGLTest, KeepsBuffersOfSizesThatCannotBe) {
     } cases[] = {
         {0, 5, GL_INVALID_FRAMEBUFFER_OPERATION},
         {100000, 100000, GL_INVALID_VALUE},
+        {1 << 28, 1 << 28, GL_INVALID_VALUE},
         {-1, -1, GL_INVALID_VALUE},
     };
     for (const auto& c : cases) {

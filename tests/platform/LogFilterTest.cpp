@@ -6,7 +6,8 @@
 namespace {
 
 constexpr int fatal = 7;
-constexpr int none = fatal + 1;
+constexpr int silent = fatal + 1;
+constexpr int none = silent + 1;
 
 struct Case {
     std::string expression;
@@ -27,6 +28,13 @@ TEST(LogFilterTest, ShowsFromTheLeastPriorityOn) {
         {"A:D B:I C:W D:E", "C", 5},
         {"A:D B:I C:W D:E", "B", 4},
         {"*:F", "A", 7},
+        {"*:D", "A", 3},
+        {"*:I", "A", 4},
+        {"*:1", "A", 1},
+        {"A:S,B:E", "A", none},
+        {"A:S,B:E", "B", 6},
+        {"A:8", "A", 2}, // numbers from silent on mean verbose
+        {"A:9", "A", 2},
         {"*:S", "A", none},
         {"*:w", "A", 5},
         {"A:E", "AB", 2},
@@ -51,7 +59,7 @@ TEST(LogFilterTest, ShowsFromTheLeastPriorityOn) {
         std::string expression = c.expression;
         const LogFilter filter(expression.c_str());
         expression.assign(expression.size(), '-'); // the filter keeps a copy
-        for (int priority = 2; priority <= fatal; ++priority) {
+        for (int priority = 1; priority <= silent; ++priority) {
             EXPECT_EQ(filter.Shows(priority, c.tag.c_str()), priority >= c.least)
                 << c.expression << ", " << c.tag << ", " << priority;
         }

@@ -67,6 +67,21 @@ TEST_F(ConversionsTest, MapsColourBytes) {
     }
 }
 
+TEST_F(ConversionsTest, CarriesEveryFieldOfATextRequest) {
+    const tagZoTextInfo in = {u"text", 4, {255, 0, 0, 51}, {0, 51, 1, 255}, 11, 22, 33, 44, 55};
+    tagTextInfo out = {};
+    surface.SetTextInfo(&in, &out);
+    const auto channels = [](const tagColorRGBA& c) {
+        return std::vector<float>{c.r, c.g, c.b, c.a};
+    };
+    EXPECT_EQ(channels(out.color), (std::vector<float>{1, 0, 0, 0.2f}));
+    EXPECT_EQ(channels(out.reservedColor), (std::vector<float>{0, 0.2f, 1, 1}));
+    EXPECT_EQ((std::vector<unsigned int>{out.length, out.reservedByte, out.fontSize, out.bold,
+                                         out.reservedStyle, out.italic}),
+              (std::vector<unsigned int>{4, 11, 22, 33, 44, 55}));
+    EXPECT_EQ(out.text, in.text);
+}
+
 TEST_F(ConversionsTest, FoldsCodesIntoThePublicOnes) {
     const std::set<int> kept = {1, 2, 3, 4, 5, 10, 13, 14, 15, 20, 30, 31, 32, 100, 101};
     for (int code = -2; code <= 300; ++code) {

@@ -30,7 +30,7 @@ void UseFakeFont(std::vector<FakeGlyph> glyphs) {
             return FT_Err_Invalid_Character_Code;
         }
         face->glyph->format = FT_GLYPH_FORMAT_BITMAP;
-        face->glyph->advance = {FT_Pos{glyph->advance} * 64, 0};
+        face->glyph->advance = {FT_Pos{glyph->advance} * 64, FT_Pos{glyph->rise} * 64};
         face->glyph->bitmap_left = glyph->left;
         face->glyph->bitmap_top = glyph->top;
         const int pitch = glyph->pitch == 0 ? static_cast<int>(glyph->width) : glyph->pitch;

@@ -16,6 +16,7 @@ struct FakeGlyph {
     int pitch = 0;                            ///< 0 means the width
     std::vector<unsigned char> coverage = {}; ///< empty means 255 all over
     bool isFailing = false;
+    int rise = 0; ///< vertical advance, pixels
 };
 
 /// From now on every face maps these characters, in this order, and no others.

@@ -16,6 +16,16 @@ TEST_F(FontLoadingGLTest, ASizeThatCannotBeSetLeavesTheOldOne) {
     EXPECT_TRUE(Shows(u"M", {20}));
 }
 
+TEST_F(FontLoadingGLTest, HasNoSizeAfterTwoFailures) {
+    UseFakeFont({{65, 4, 3}});
+    Load();
+    harness::FailCall("glGenTextures");
+    EXPECT_EQ(surface->ZoLoadFont(sansPath, 40), ZO_FAILURE);
+    EXPECT_EQ(surface->ZoLoadFont(missingPath, 40), ZO_FONT_FACE_FAILED);
+    EXPECT_EQ(surface->fontAtlas->GetFontTextureWidth(), 0U);
+    EXPECT_EQ(surface->fontAtlas->GetFontTextureHeight(), 0U);
+}
+
 TEST_F(FontLoadingGLTest, FirstUseDrawsInTheDefaultFont) {
     EXPECT_EQ(surface->Init(0xFE), ZO_SUCCESS);
     EXPECT_FALSE(surface->fontAtlas || surface->fontStyleAtlas || surface->osdText);

@@ -159,7 +159,7 @@ TEST_F(TextDrawingGLTest, BuildsVerticesByTheFormulas) {
     addQuad(12, 57, 73, 0, 1);
     addQuad(13, 52, 60, 0.5f, 0.5f);
     EXPECT_EQ(Vertices(), expected);
-    // The same for a caller of the renderer itself, who has set the target up.
+    // The same through the renderer's own operation.
     harness::Current().bufferData.clear();
     const Calls calls = harness::Record(
         [&] { surface->osdText->RenderText(u"AB", 2, 10 / 128.0f - 1, 1 - 60 / 64.0f); });
@@ -178,6 +178,20 @@ TEST_F(TextDrawingGLTest, BuildsVerticesByTheFormulas) {
             EXPECT_EQ(Vertices()[6][0], static_cast<float>(c.start + c.advance) / 128 - 1);
         }
     }
+}
+
+TEST_F(TextDrawingGLTest, MovesThePenByBothAdvances) {
+    UseFakeFont({{65, 8, 8, 0, 8, 10, 0, {}, false, 4}, {66, 8, 8, 0, 8, -1, 0, {}, false, -1}});
+    Load();
+    Draw(u"AAB");
+    const float top = 1 - 52 / 64.0f;
+    for (const size_t i : {0U, 1U, 2U}) { // up by 4 pixels each
+        EXPECT_EQ(Vertices()[6 * i][1], top + 4 * static_cast<float>(i) / 64);
+    }
+    // Negative advances are taken as unsigned, in 26.6 fixed point.
+    const tagGlyphInfo& negative = surface->fontAtlas->GetGlyphs().at(66);
+    EXPECT_EQ(negative.advanceX, 67108864.0f);
+    EXPECT_EQ(negative.advanceY, 67108864.0f);
 }
 
 TEST_F(TextDrawingGLTest, SkipsWhatTheFontCannotShow) {
