@@ -1,7 +1,11 @@
 #include "surface/Conversions.h"
 
 #include <GLES2/gl2.h>
+#include <cfloat>
 #include <cstddef>
+
+// Excess precision would move edges by a pixel.
+static_assert(FLT_EVAL_METHOD == 0, "float expressions must be evaluated in single precision");
 
 // Clients in other languages and older binaries share these records in memory.
 static_assert(sizeof(tagZoRectInfo) == 16);
