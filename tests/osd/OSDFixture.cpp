@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace {
 
@@ -28,8 +29,11 @@ Pixel SampleLinear(const Image& image, double u, double v) {
 } // namespace
 
 bool Contains(const tagZoRectInfo& rect, int x, int y) {
-    return x >= static_cast<long>(rect.x) && x < static_cast<long>(rect.x) + rect.width &&
-           y >= static_cast<long>(rect.y) && y < static_cast<long>(rect.y) + rect.height;
+    // The sum may exceed 32 bits.
+    const auto isWithin = [](std::int64_t value, std::int64_t start, unsigned int size) {
+        return value >= start && value < start + size;
+    };
+    return isWithin(x, rect.x, rect.width) && isWithin(y, rect.y, rect.height);
 }
 
 Image Noise(int width, int height, bool isOpaque) {
