@@ -164,8 +164,8 @@ struct TagFboInfo {
 ///
 /// No operation throws. Where memory is refused, the operation logs a line and returns
 /// ZO_FAILURE, or ZO_PROGRAM_FAILED if it was to build a program.
-/// An operation that fails draws nothing. Drivers do not report exhausted memory: such a bitmap or
-/// buffer shows as opaque black, and such a glyph as a solid rectangle.
+/// An operation that fails draws nothing. Exhausted driver memory is not detected: a bitmap or buffer
+/// without memory shows as opaque black, a glyph as a solid rectangle.
 ///
 /// A frame, with the result codes left out:
 /// @code
@@ -300,7 +300,8 @@ public:
     /// Loads a font file for all text drawn from now on. Without it, the first text operation loads
     /// the platform's default font at 40 pixels. A loaded font is dropped with the window.
     /// @param path a file of any format that FreeType opens; the path is not kept, but the file
-    ///     stays open and mapped until another font is loaded: replace it by renaming, never in place
+    ///     stays open and mapped until another font is loaded or the window is lost: replace it by
+    ///     renaming, never in place
     /// @param size glyph height in pixels for text of the standard style (40, neither bold nor
     ///     italic) and for measuring; 0 means 40
     /// @pre the surface is bound

@@ -92,7 +92,8 @@ FBOManager::~FBOManager() {
 int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int format,
                             bool reuseHandle) {
     const int free = FreeSlot();
-    if (free == slotCount) {
+    const bool hasNoNumber = reuseHandle && *handle == ZO_NO_HANDLE;
+    if (free == slotCount || hasNoNumber) {
         __android_log_print(LogError, tag, "num of the FBO more than max num %d \n", slotCount);
         return ZO_NO_FREE_FBO;
     }
@@ -103,7 +104,7 @@ int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int for
     UnbindTarget();
 
     if (!reuseHandle) {
-        *handle = NewHandle();
+        *handle = NewHandle({});
     }
     slot.handle = *handle;
     if (slot.framebuffer == 0) {
@@ -126,15 +127,15 @@ int FBOManager::FreeSlot() const {
     return slot;
 }
 
-unsigned int FBOManager::NewHandle(const TagFboInfo* recorded, const TagFboInfo* end) const {
+unsigned int FBOManager::NewHandle(const TagFboInfo (&records)[slotCount]) const {
     const auto isUsed = [&](unsigned int handle) {
         return FindSlot(handle, std::begin(slots), std::end(slots)) != std::end(slots) ||
-               FindSlot(handle, recorded, end) != end;
+               FindSlot(handle, std::begin(records), std::end(records)) != std::end(records);
     };
     unsigned int handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(FreeSlot());
     for (int i = firstBufferSlot; isUsed(handle); ++i) {
         if (i == slotCount) {
-            return NewHandle(end, end);
+            return ZO_NO_HANDLE;
         }
         handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(i);
     }

@@ -24,6 +24,8 @@ struct tagFrameBuffObject {
 /// handles differ from all that are in use.
 class ZOGLES_API FBOManager {
 public:
+    static constexpr int slotCount = 16;
+
     /// @param width,height the window's size in pixels. Makes no GL call.
     FBOManager(int width, int height);
     ~FBOManager();
@@ -33,17 +35,17 @@ public:
 
     /// Creates a buffer in the lowest free slot, transparent black. The driver's verdict on it is
     /// logged and changes nothing.
-    /// @param handle receives the new handle; with `reuseHandle`, gives the one to use
+    /// @param handle receives the new handle; with `reuseHandle`, gives the one to use, where
+    ///     ZO_NO_HANDLE counts as a full pool
     /// @param format GL pixel format of the texture
     /// @return ZO_SUCCESS, or ZO_NO_FREE_FBO, with `*handle` untouched
     int GLCreateFBO(unsigned int* handle, int width, int height, int format, bool reuseHandle);
 
-    /// Chooses the handle of the next buffer: the number of its slot, or else the lowest number, that
-    /// no buffer has and that is not recorded for one. If every number is recorded, only the buffers
-    /// count. Precondition: a slot is free.
-    /// @param recorded,end records of buffers that are to be created again
-    unsigned int NewHandle(const TagFboInfo* recorded = nullptr,
-                           const TagFboInfo* end = nullptr) const;
+    /// Chooses the handle of the next buffer: the number of its slot or, where a buffer or a record
+    /// has that number, the lowest that neither has.
+    /// @param records buffers that are to be created again
+    /// @return ZO_NO_HANDLE if no number is left; meaningless if no slot is free
+    unsigned int NewHandle(const TagFboInfo (&records)[slotCount]) const;
 
     /// Copies the target with that handle, the window included.
     /// @return whether there is one; `out` is untouched if not
@@ -62,8 +64,6 @@ public:
     void InitFBO(tagFrameBuffObject* fbo) const;
 
 private:
-    static constexpr int slotCount = 16;
-
     int FreeSlot() const;
 
     tagFrameBuffObject slots[slotCount];

@@ -13,8 +13,8 @@
 int BuildProgram(const char* tag, const char* vertexSource, const char* fragmentSource,
                  std::unique_ptr<ShaderProgram>& helper, GLuint& program);
 
-/// Deletes buffer and program, those that exist. Harmless after the context is gone. The helper
-/// stays: members are destroyed in a fixed order, which has it later.
+/// Deletes buffer and program, those that exist. Harmless after the context is gone. The helper is
+/// kept: it is destroyed with the renderer's members, after the glyph map.
 void ReleaseObjects(const std::unique_ptr<ShaderProgram>& helper, GLuint& program,
                     GLuint& vertexBuffer);
 

@@ -28,8 +28,9 @@ public:
     /// @return ZO_SUCCESS or ZO_PROGRAM_FAILED
     int Init();
 
-    /// Copies. Precondition: source and destination are different textures, because sampling the
-    /// texture that is drawn into is undefined in GL.
+    /// Copies.
+    /// @pre source and destination are different textures, or texture 0: GL leaves it undefined to
+    ///     sample the texture that is drawn into
     void Blit(const tagBlitInfo* info) const;
 
     /// Draws the quad from the bound texture into the bound target.

@@ -4,6 +4,7 @@
 
 #include "platform/LogFilter.h"
 
+#include <cerrno>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
@@ -27,7 +28,11 @@ int WriteLine(const char* prefix, size_t prefixLength, const char* text, size_t 
     memcpy(line, prefix, prefixLength);
     memcpy(line + prefixLength, text, length);
     line[prefixLength + length] = '\n';
-    return static_cast<int>(write(STDERR_FILENO, line, prefixLength + length + 1));
+    ssize_t written = 0;
+    do {
+        written = write(STDERR_FILENO, line, prefixLength + length + 1);
+    } while (written < 0 && errno == EINTR); // a signal while a full pipe was waited for
+    return static_cast<int>(written);
 }
 
 int WriteMessage(int priority, const char* tag, const char* text) {

@@ -5,7 +5,6 @@
 #include "surface/Results.h"
 
 #include <GLES2/gl2.h>
-#include <iterator>
 #include <new>
 
 // Puts a new pool in the place of the one there is.
@@ -48,15 +47,15 @@ int ZoGLDrawSurface::ZoCreateGLFBO(unsigned int* handle, unsigned int width, uns
     }
     const int glFormat = static_cast<int>(ConvertFormatToGLES(format));
     // A pool made while unbound lacks the recorded buffers, and would reissue their handles.
-    unsigned int number = fboManager->NewHandle(std::begin(fboInfo), std::end(fboInfo));
-    code = fboManager->GLCreateFBO(&number, static_cast<int>(width), static_cast<int>(height),
+    unsigned int newHandle = fboManager->NewHandle(fboInfo);
+    code = fboManager->GLCreateFBO(&newHandle, static_cast<int>(width), static_cast<int>(height),
                                    glFormat, true);
     if (code != ZO_SUCCESS) {
         __android_log_print(LogError, surfaceTag, "Create FBO fail %d\n", code);
         return ToError(code);
     }
-    *handle = number;
-    SaveFboInfo(number, static_cast<int>(width), static_cast<int>(height), glFormat);
+    *handle = newHandle;
+    SaveFboInfo(newHandle, static_cast<int>(width), static_cast<int>(height), glFormat);
     return ZO_SUCCESS;
 }
 

@@ -7,8 +7,8 @@
 
 namespace {
 
-// The last code point of Unicode. A damaged or hostile character map can go on to 0xFFFFFFFF, and
-// loading four thousand million characters would take hours.
+// The last code point of Unicode. A hostile character map can go on to 0xFFFFFFFF, and loading four
+// billion characters would take hours.
 constexpr FT_ULong lastCharacter = 0x10FFFF;
 
 // Calls `visit` with every character that the face maps, rendered, in ascending order.

@@ -32,7 +32,7 @@ void WalkText(FT_Face face, const tagTextInfo& info, Visit visit) {
 FontStyleAtlas::FontStyleAtlas()
     : face(nullptr), library(nullptr), texture(0), width(0), height(0) {}
 
-// The map is destroyed last, so the texture is not deleted by `DeleteTexture`, which clears it.
+// Deletes the texture directly: `DeleteTexture` would clear the map before the face is closed.
 FontStyleAtlas::~FontStyleAtlas() {
     if (texture != 0) {
         glDeleteTextures(1, &texture);

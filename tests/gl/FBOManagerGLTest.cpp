@@ -99,6 +99,17 @@ TEST_F(FBOManagerGLTest, CreatesABufferInOrderAndClear) {
     ExpectStateAfterDraw(GL_TEXTURE0);
 }
 
+TEST_F(FBOManagerGLTest, NumbersBuffersBySlotUnlessTheNumberIsTaken) {
+    unsigned int handle = 0x1000C;
+    EXPECT_EQ(pool->GLCreateFBO(&handle, 4, 4, GL_RGBA, true), ZO_SUCCESS);
+    for (const unsigned int number : {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 1, 13, 14, 15}) {
+        EXPECT_EQ(Create(4, 4), 0x10000 + number);
+    }
+    handle = untouched;
+    EXPECT_EQ(pool->GLCreateFBO(&handle, 4, 4, GL_RGBA, false), ZO_NO_FREE_FBO);
+    EXPECT_EQ(handle, untouched);
+}
+
 TEST_F(FBOManagerGLTest, DestroysWhatABufferOwns) {
     const unsigned int whole = Create(4, 4);
     harness::FailCall("glGenTextures");

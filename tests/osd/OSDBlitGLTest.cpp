@@ -70,10 +70,11 @@ TEST_F(OSDBlitGLTest, ScrollsABufferOfFullSize) {
     EXPECT_TRUE(Matches(Read(buffer), Drawn(large, WholeOf(large), to, Of(large))));
 }
 
-TEST_F(OSDBlitGLTest, CopiesNothingWithinABufferOfSizeZero) {
+TEST_F(OSDBlitGLTest, BlitsWithinABufferOfSizeZero) {
     Bind();
     for (const auto& [width, height] : {std::pair{0U, 5U}, std::pair{5U, 0U}}) {
         const unsigned int buffer = CreateBuffer(width, height);
+        ExpectGlError(GL_INVALID_FRAMEBUFFER_OPERATION);
         const auto calls = harness::Record([&] {
             Blit(buffer, buffer, {1, 1, 3, 3}, {0, 0, 3, 3});
         });

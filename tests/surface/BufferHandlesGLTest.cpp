@@ -93,10 +93,14 @@ TEST_F(BufferHandlesGLTest, KeepsRecordsAndTheirHandlesAfterDrawingWhileUnbound)
     for (unsigned int handle = 0x10004; handle <= 0x1000F; ++handle) {
         EXPECT_EQ(CreateBuffer(1, 1), handle);
     }
+    surface->ZoDestoryGLFBO(0x1000F);
     drawUnbound();
-    EXPECT_EQ(CreateBuffer(8, 8), 0x10001U) << "every number is recorded";
-    EXPECT_EQ(CreateBuffer(8, 8), 0x10002U) << "of these, no buffer has 2";
-    EXPECT_EQ(Table().substr(0, 29), "10001:6x5 10002:5x3 10003:7x5");
+    EXPECT_EQ(CreateBuffer(1, 1), 0x1000FU);
+    const std::string full = Table();
+    unsigned int handle = 7;
+    EXPECT_EQ(surface->ZoCreateGLFBO(&handle, 8, 8, 9), ZO_NO_FREE_FBO) << "15 are recorded";
+    EXPECT_EQ(handle, 7U);
+    EXPECT_EQ(Table(), full);
 }
 
 TEST_F(BufferHandlesGLTest, ANewPoolByItsFlagReplacesTheOneThereIs) {

@@ -16,7 +16,22 @@ TEST_F(FontLoadingGLTest, ASizeThatCannotBeSetLeavesTheOldOne) {
     EXPECT_TRUE(Shows(u"M", {20}));
 }
 
-TEST_F(FontLoadingGLTest, HasNoSizeAfterTwoFailures) {
+TEST_F(FontLoadingGLTest, TheLastOwnerFreesMembersInOrder) {
+    UseFakeFont({{65, 4, 3}});
+    Load();
+    Draw(u"A", {41});
+    surface->fontAtlas.reset();
+    surface->fontStyleAtlas.reset();
+    std::vector<std::string> names;
+    for (const std::string& call : harness::Record([&] { surface->osdText.reset(); })) {
+        names.push_back(call.substr(0, call.find('(')));
+    }
+    EXPECT_EQ(names,
+              (std::vector<std::string>{"glDeleteBuffers", "glDeleteProgram", "glDeleteTextures",
+                                        "FT_Done_Face", "FT_Done_FreeType", "glDeleteTextures"}));
+}
+
+TEST_F(FontLoadingGLTest, SizeIsZeroAfterTwoFailedLoads) {
     UseFakeFont({{65, 4, 3}});
     Load();
     harness::FailCall("glGenTextures");

@@ -74,7 +74,7 @@ TEST_F(GlyphAtlasGLTest, PlacesAndRecordsWhatFits) {
         for (int i = 1; c.limit == untold && i <= 50; ++i) {
             harness::FailCall("glGetIntegerv", i);
         }
-        glEnable(GL_NONE); // an error that the client has not asked for yet
+        glEnable(GL_NONE); // a pending client error
         EXPECT_EQ(surface->ZoLoadFont(sansPath, 40), ZO_SUCCESS);
         ExpectGlError(GL_INVALID_ENUM);
         Log log;

@@ -269,6 +269,10 @@ TEST_F(TextDrawingGLTest, TakesMemoryForLongTextsOnlyAndStandsItsRefusal) {
     EXPECT_EQ(harness::TakeLog(), Errors({{"OSDText", "out of memory\n"}}));
     ExpectStateAfterDraw(GL_TEXTURE1);
     EXPECT_TRUE(Shows(u"", {}));
+    harness::RefuseAllocation(1);
+    surface->osdText->RenderText(tooLong.data(), 65, 0, 0);
+    EXPECT_EQ(harness::TakeLog(), Errors({{"OSDText", "out of memory\n"}}));
+    ExpectStateAfterDraw(GL_TEXTURE1);
     EXPECT_EQ(Draw(tooLong), ZO_SUCCESS);
     EXPECT_TRUE(Shows(tooLong, {}));
     for (const size_t units : {size_t{1000}, size_t{100000}}) {
