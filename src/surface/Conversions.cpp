@@ -4,7 +4,7 @@
 #include <cfloat>
 #include <cstddef>
 
-// Excess precision would move edges by a pixel.
+// Excess precision can put an edge on another pixel.
 static_assert(FLT_EVAL_METHOD == 0, "float expressions must be evaluated in single precision");
 
 // Clients in other languages and older binaries share these records in memory.
