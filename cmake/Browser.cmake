@@ -14,13 +14,13 @@ set(BUILD_SHARED_LIBS OFF)
 add_compile_options(-fexceptions)
 add_link_options(-fexceptions)
 
-add_library(PkgConfig::ZOGLES_EGL INTERFACE IMPORTED)
+add_library(zogles::EGL INTERFACE IMPORTED)
 set(contexts ${PROJECT_SOURCE_DIR}/web/egl/context.js)
-target_link_options(PkgConfig::ZOGLES_EGL INTERFACE -fexceptions "SHELL:--js-library \"${contexts}\"")
-set_target_properties(PkgConfig::ZOGLES_EGL PROPERTIES INTERFACE_LINK_DEPENDS ${contexts})
+target_link_options(zogles::EGL INTERFACE -fexceptions "SHELL:--js-library \"${contexts}\"")
+set_target_properties(zogles::EGL PROPERTIES INTERFACE_LINK_DEPENDS ${contexts})
 # WebGL takes no indices from the client's memory. This has Emscripten put them into a buffer.
-add_library(PkgConfig::ZOGLES_GLES INTERFACE IMPORTED)
-target_link_options(PkgConfig::ZOGLES_GLES INTERFACE -sFULL_ES2=1)
+add_library(zogles::GLES INTERFACE IMPORTED)
+target_link_options(zogles::GLES INTERFACE -sFULL_ES2=1)
 
 enable_language(C)
 foreach(dependency ZLIB BZIP2 PNG HARFBUZZ BROTLI)

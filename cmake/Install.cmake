@@ -21,6 +21,7 @@ write_basic_package_version_file(zogles-config-version.cmake COMPATIBILITY SameM
 install(FILES
   "${CMAKE_CURRENT_BINARY_DIR}/zogles-config.cmake"
   "${CMAKE_CURRENT_BINARY_DIR}/zogles-config-version.cmake"
+  cmake/zogles-dependencies.cmake
   DESTINATION "${package_folder}" COMPONENT development)
 
 # For pkg-config: every folder is given from where the .pc file lies.
@@ -32,7 +33,14 @@ endforeach()
 # A shared library names what it needs itself. A static one does not, so clients link that too, with
 # pkg-config's --static or without.
 if(ZOGLES_LIBRARY_TYPE STREQUAL STATIC_LIBRARY)
-  set(ZOGLES_PC_REQUIRES "egl glesv2 freetype2")
+  foreach(library IN LISTS ZOGLES_PLATFORM_LIBRARIES)
+    string(APPEND ZOGLES_PC_LIBRARIES " -l${library}")
+  endforeach()
+  if(ZOGLES_EGL_FOUND AND ZOGLES_GLES_FOUND)
+    set(ZOGLES_PC_REQUIRES "egl glesv2 freetype2")
+  else() # pkg-config does not know them
+    string(APPEND ZOGLES_PC_LIBRARIES " -lEGL -lGLESv2 -lfreetype")
+  endif()
   set(ZOGLES_PC_DEFINITIONS " -DZOGLES_STATIC")
 endif()
 configure_file(cmake/zogles.pc.in zogles.pc @ONLY)

@@ -1,7 +1,5 @@
 #include "platform/MemsetS.h"
 
-#if !defined(__ANDROID__)
-
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
@@ -16,5 +14,3 @@ extern "C" int memset_s(void* dest, size_t destSize, int value, size_t count) {
     memset(dest, value, count);
     return 0;
 }
-
-#endif

@@ -2,6 +2,8 @@
 // window shows. Ends with 0 only if that is right.
 #include <zogles/ZoGLDrawSurface.h>
 
+#include "names.h"
+
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <chrono>
@@ -55,6 +57,9 @@ bool IsShown(Display* display, Window window) {
 
 int main(int argc, char* argv[]) {
     const char* font = argc > 1 ? argv[1] : "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
+    if (argc > 2) {
+        MakeOwnObjects();
+    }
     Display* display = XOpenDisplay(nullptr);
     if (display == nullptr) {
         fprintf(stderr, "no X server\n");
