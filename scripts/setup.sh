@@ -1,6 +1,25 @@
 # shellcheck shell=bash
-# Sourced by the other scripts: installs the Debian packages that scripts/packages.txt lists.
-# Defines install_packages, which does nothing and needs no network when all of them are there.
+# Sourced by the other scripts, before they do anything. Given --help, it prints the script's opening
+# comment and ends. Otherwise it defines install_packages, which installs the Debian packages that
+# scripts/packages.txt lists; when all of them are there, it does nothing and needs no network.
+
+# Prints the opening comment of the script that runs.
+print_help() {
+    local folder name
+    folder="$(dirname "${BASH_SOURCE[0]}")"
+    name="$(basename "$0")"
+    if [ ! -f "$folder/$name" ]; then
+        folder="$folder/../.ci"
+    fi
+    sed -n '1d; /^#/!q; s/^# \{0,1\}//p' "$folder/$name"
+}
+
+case " $* " in
+*" --help "*)
+    print_help
+    exit
+    ;;
+esac
 
 # Prints the packages of the list's sections that are given and not installed, one a line.
 missing_packages() {
@@ -35,6 +54,25 @@ as_root() {
     fi
 }
 
+# apt_get ARGUMENT...: runs apt-get as root, once no other program holds one of its locks.
+apt_get() {
+    local errors status lock shown=""
+    errors=$(mktemp)
+    while true; do
+        status=0
+        as_root env LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive apt-get "$@" 2>"$errors" || status=$?
+        lock=$(sed -n 's/^E: Could not get lock //p' "$errors")
+        if [ "$status" -eq 0 ] || [ -z "$lock" ]; then
+            cat "$errors" >&2
+            rm "$errors"
+            return "$status"
+        fi
+        [ "$lock" = "$shown" ] || echo "waiting for the lock $lock" >&2
+        shown=$lock
+        sleep 3
+    done
+}
+
 # Installs what is missing of the sections given, such as: install_packages build run
 install_packages() {
     local missing
@@ -47,7 +85,6 @@ install_packages() {
         return 0
     fi
     echo "installing with apt: ${missing[*]}"
-    as_root apt-get update
-    as_root env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y --no-install-recommends "${missing[@]}"
+    apt_get update
+    apt_get install -y --no-install-recommends "${missing[@]}"
 }
