@@ -75,7 +75,10 @@ std::string Object(GLuint name) {
     if (name == 0 || noted == nullptr) {
         return "none";
     }
-    return "#" + std::to_string(Numbers().emplace(name, Numbers().size()).first->second);
+    // GCC 12 warns of "#" + std::to_string(...) in C++20: https://gcc.gnu.org/PR105651
+    std::string number = "#";
+    number += std::to_string(Numbers().emplace(name, Numbers().size()).first->second);
+    return number;
 }
 
 std::string Content(const void* data, GLsizeiptr size) {
