@@ -102,7 +102,8 @@ TEST_F(FBOManagerGLTest, CreatesABufferInOrderAndClear) {
 TEST_F(FBOManagerGLTest, NumbersBuffersBySlotUnlessTheNumberIsTaken) {
     unsigned int handle = 0x1000C;
     EXPECT_EQ(pool->GLCreateFBO(&handle, 4, 4, GL_RGBA, true), ZO_SUCCESS);
-    for (const unsigned int number : {2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 1, 13, 14, 15}) {
+    for (const unsigned int number :
+         {2U, 3U, 4U, 5U, 6U, 7U, 8U, 9U, 10U, 11U, 1U, 13U, 14U, 15U}) {
         EXPECT_EQ(Create(4, 4), 0x10000 + number);
     }
     handle = untouched;
