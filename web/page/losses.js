@@ -72,6 +72,17 @@ export class Losses extends EventTarget {
         this.#follow();
     }
 
+    /**
+     * Frees the handles of buffers that were not restored: they stay reserved otherwise.
+     *
+     * @param {number[]} before the handles before the loss
+     */
+    #destroyMissing(before) {
+        const { engine } = this;
+        const missing = before.filter((handle) => !engine.targets.has(handle));
+        engine.withoutLog(() => missing.forEach((handle) => engine.surface.ZoDestoryGLFBO(handle)));
+    }
+
     #toggleWindow() {
         if (this.engine.isBound) {
             this.engine.destroyWindow();
@@ -97,6 +108,7 @@ export class Losses extends EventTarget {
             this.#show(['The window is lost. Operations fail, with codes, until one is bound.']);
         } else if (this.#lost) {
             this.#show(findFacts(engine, this.#lost));
+            this.#destroyMissing(this.#lost);
             this.#lost = null;
             this.#taker = null;
             this.dispatchEvent(new Event('back'));
