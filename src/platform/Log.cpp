@@ -53,6 +53,14 @@ int WriteMessage(int priority, const char* tag, const char* text) {
     return total;
 }
 
+// Apart from the filter, so that a message which is not shown does not set up the buffers here.
+__attribute__((noinline, format(printf, 3, 0))) int Format(int priority, const char* tag,
+                                                           const char* format, va_list arguments) {
+    char text[maxMessage + 1];
+    const int length = vsnprintf(text, sizeof(text), format, arguments);
+    return length < 0 ? length : WriteMessage(priority, tag, text);
+}
+
 } // namespace
 
 extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, ...) {
@@ -61,12 +69,11 @@ extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, .
     if (!filter.Shows(prio, shownTag)) {
         return 0;
     }
-    char text[maxMessage + 1];
-    va_list args;
-    va_start(args, fmt);
-    const int length = vsnprintf(text, sizeof(text), fmt, args);
-    va_end(args);
-    return length < 0 ? length : WriteMessage(prio, shownTag, text);
+    va_list arguments;
+    va_start(arguments, fmt);
+    const int written = Format(prio, shownTag, fmt, arguments);
+    va_end(arguments);
+    return written;
 }
 
 #endif

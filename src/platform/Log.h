@@ -24,15 +24,18 @@ __android_log_print(int prio, const char* tag, const char* fmt, ...);
 
 #endif
 
-/// The priorities, with the platform's numbers. The library logs at verbose, warning and error.
+/// The priorities in use, with the platform's numbers. The library logs at verbose, warning and error.
 enum LogPriority : int {
     LogVerbose = 2,
     LogDebug = 3,
-    LogInfo = 4,
     LogWarning = 5,
     LogError = 6,
-    LogFatal = 7,
     LogSilent = 8, ///< for filters: nothing is logged at it
 };
+
+/// Logs that memory was refused.
+inline void LogOutOfMemory(const char* tag) {
+    __android_log_print(LogError, tag, "out of memory\n");
+}
 
 #endif

@@ -1,7 +1,5 @@
 #include "platform/LogFilter.h"
 
-#include "platform/Log.h"
-
 #include <cstring>
 
 namespace {
@@ -19,24 +17,9 @@ int PriorityOf(char letter, int bare) {
     if (letter >= '0' && letter <= '9') {
         return letter - '0' < LogSilent ? letter - '0' : LogVerbose;
     }
-    switch (letter | 0x20) { // lower case
-    case 'v':
-        return LogVerbose;
-    case 'd':
-        return LogDebug;
-    case 'i':
-        return LogInfo;
-    case 'w':
-        return LogWarning;
-    case 'e':
-        return LogError;
-    case 'f':
-        return LogFatal;
-    case 's':
-        return LogSilent;
-    default:
-        return noPriority;
-    }
+    constexpr char letters[] = "vdiwefs"; // from verbose to silent
+    const char* found = strchr(letters, letter | 0x20);
+    return found == nullptr ? noPriority : LogVerbose + static_cast<int>(found - letters);
 }
 
 } // namespace
@@ -86,11 +69,11 @@ void LogFilter::AddRule(const char* tag, size_t tagLength, int least) {
     rules[ruleCount++] = {copy, least};
 }
 
-bool LogFilter::Shows(int priority, const char* tag) const {
-    for (size_t i = ruleCount; i > 0; --i) { // of two entries for one tag the later holds
+int LogFilter::LeastFor(const char* tag) const {
+    for (size_t i = ruleCount; i > 0; --i) { // if a tag appears twice, the last entry applies
         if (strcmp(rules[i - 1].tag, tag) == 0) {
-            return priority >= rules[i - 1].least && rules[i - 1].least < LogSilent;
+            return rules[i - 1].least;
         }
     }
-    return priority >= leastOfOthers && leastOfOthers < LogSilent;
+    return leastOfOthers;
 }

@@ -3,6 +3,8 @@
 #ifndef ZOGLES_PLATFORM_LOGFILTER_H
 #define ZOGLES_PLATFORM_LOGFILTER_H
 
+#include "platform/Log.h"
+
 #include <cstddef>
 
 /// A filter in the platform's own syntax (see Log.h), parsed once into a fixed table: asking it
@@ -14,7 +16,10 @@ public:
     explicit LogFilter(const char* expression);
 
     /// Whether a message of that priority under that tag is shown.
-    bool Shows(int priority, const char* tag) const;
+    bool Shows(int priority, const char* tag) const {
+        const int least = ruleCount == 0 ? leastOfOthers : LeastFor(tag);
+        return priority >= least && least < LogSilent;
+    }
 
 private:
     struct Rule {
@@ -22,6 +27,7 @@ private:
         int least;
     };
 
+    int LeastFor(const char* tag) const;
     void AddEntry(const char* entry, size_t length);
     void AddRule(const char* tag, size_t tagLength, int least);
 
