@@ -367,7 +367,6 @@ private:
     void FBOManagerInit(unsigned int flags);
     void SaveFboInfo(unsigned int handle, int width, int height, int format);
     void RemoveFBO(unsigned int handle);
-    TagFboInfo* FindFboInfo(unsigned int handle);
     void InitFBO(TagFboInfo* entry) const;
 
     // Each creates the component of its flag; does nothing when the flag is clear.
@@ -387,10 +386,10 @@ private:
     std::unique_ptr<OSDBitmap> osdBitmap;
     std::unique_ptr<OSDFrame> osdFrame;
     std::unique_ptr<OSDRect> osdRect;
-    unsigned int windowWidth;
-    unsigned int windowHeight;
-    bool fontLoaded;
-    bool surfaceCreated;
+    unsigned int windowWidth = 1920;
+    unsigned int windowHeight = 1080;
+    bool fontLoaded = false;
+    bool surfaceCreated = false;
     TagFboInfo fboInfo[fboInfoCount];
 };
 

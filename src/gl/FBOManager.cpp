@@ -4,13 +4,9 @@
 #include "gl/Texture.h"
 #include "platform/Log.h"
 
-#include <iterator>
-
 namespace {
 
 constexpr char tag[] = "FBOManager";
-constexpr int windowSlot = 0;
-constexpr int firstBufferSlot = 1;
 
 const char* StatusMessage(GLenum status) {
     switch (status) {
@@ -61,99 +57,65 @@ void DeleteObjects(const tagFrameBuffObject& slot) {
     }
 }
 
-// The first of the slots from `slot` up to `end` with that handle, or `end`. A client can pass
-// ZO_NO_HANDLE, which marks free slots: it never matches.
-template <typename Slot>
-Slot* FindSlot(unsigned int handle, Slot* slot, Slot* end) {
-    if (handle == ZO_NO_HANDLE) {
-        return end;
-    }
-    while (slot != end && slot->handle != handle) {
-        ++slot;
-    }
-    return slot;
-}
-
 } // namespace
 
 FBOManager::FBOManager(int width, int height) {
     for (tagFrameBuffObject& slot : slots) {
         InitFBO(&slot);
     }
-    slots[windowSlot] = {ZO_WINDOW_HANDLE, 0, 0, width, height};
+    slots[0] = {ZO_WINDOW_HANDLE, 0, 0, width, height};
 }
 
 FBOManager::~FBOManager() {
-    for (int i = firstBufferSlot; i < slotCount; ++i) {
-        DeleteObjects(slots[i]);
+    for (const tagFrameBuffObject& slot : slots) {
+        DeleteObjects(slot);
     }
 }
 
 int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int format,
                             bool reuseHandle) {
-    const int free = FreeSlot();
-    const bool hasNoNumber = reuseHandle && *handle == ZO_NO_HANDLE;
-    if (free == slotCount || hasNoNumber) {
+    const unsigned int number = reuseHandle ? *handle : NewHandle({});
+    tagFrameBuffObject* slot = FirstEntry(slots, ZO_NO_HANDLE);
+    if (slot == nullptr || number == ZO_NO_HANDLE) {
         __android_log_print(LogError, tag, "num of the FBO more than max num %d \n", slotCount);
         return ZO_NO_FREE_FBO;
     }
-    tagFrameBuffObject& slot = slots[free];
-    slot.texture = CreateTexture(width, height, format);
-    slot.framebuffer = CreateFramebuffer(slot.texture);
+    *handle = number;
+    const GLuint texture = CreateTexture(width, height, format);
+    const GLuint framebuffer = CreateFramebuffer(texture);
     glBindTexture(GL_TEXTURE_2D, 0);
     UnbindTarget();
-
-    if (!reuseHandle) {
-        *handle = NewHandle({});
-    }
-    slot.handle = *handle;
-    if (slot.framebuffer == 0) {
+    if (framebuffer == 0) {
         // Drawing would go to the window: with a target of size 0 it has no effect.
-        slot.width = 0;
-        slot.height = 0;
+        *slot = {number, texture, 0, 0, 0};
         return ZO_SUCCESS;
     }
-    slot.width = width;
-    slot.height = height;
-    ClearFBOTex(&slot, &transparentBlack);
+    *slot = {number, texture, framebuffer, width, height};
+    ClearFBOTex(slot, &transparentBlack);
     return ZO_SUCCESS;
 }
 
-int FBOManager::FreeSlot() const {
-    int slot = firstBufferSlot;
-    while (slot < slotCount && slots[slot].handle != ZO_NO_HANDLE) {
-        ++slot;
-    }
-    return slot;
-}
-
 unsigned int FBOManager::NewHandle(const TagFboInfo (&records)[slotCount]) const {
+    const tagFrameBuffObject* slot = FirstEntry(slots, ZO_NO_HANDLE);
+    if (slot == nullptr) {
+        return ZO_NO_HANDLE;
+    }
     const auto isUsed = [&](unsigned int handle) {
-        return FindSlot(handle, std::begin(slots), std::end(slots)) != std::end(slots) ||
-               FindSlot(handle, std::begin(records), std::end(records)) != std::end(records);
+        return FindEntry(slots, handle) != nullptr || FindEntry(records, handle) != nullptr;
     };
-    unsigned int handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(FreeSlot());
-    for (int i = firstBufferSlot; isUsed(handle); ++i) {
-        if (i == slotCount) {
+    unsigned int handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(slot - slots);
+    for (unsigned int number = 1; isUsed(handle); ++number) {
+        if (number == slotCount) {
             return ZO_NO_HANDLE;
         }
-        handle = ZO_WINDOW_HANDLE | static_cast<unsigned int>(i);
+        handle = ZO_WINDOW_HANDLE | number;
     }
     return handle;
 }
 
-bool FBOManager::GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const {
-    const tagFrameBuffObject* slot = FindSlot(handle, std::begin(slots), std::end(slots));
-    if (slot == std::end(slots)) {
-        return false;
-    }
-    *out = *slot;
-    return true;
-}
-
 void FBOManager::GLDestoryFBO(unsigned int handle) {
-    tagFrameBuffObject* slot = FindSlot(handle, slots + firstBufferSlot, std::end(slots));
-    if (slot == std::end(slots)) {
+    tagFrameBuffObject* slot = FindEntry(slots, handle);
+    if (slot == nullptr || slot == &slots[0]) {
         __android_log_print(LogError, tag, "FBO is not exist fboHandleIndex %u\n", handle);
         return;
     }

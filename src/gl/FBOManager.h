@@ -6,6 +6,7 @@
 #include "zogles/ZoGLDrawSurface.h"
 
 #include <GLES2/gl2.h>
+#include <cstddef>
 
 /// One render target. Copied by value; the GL objects stay the pool's.
 struct tagFrameBuffObject {
@@ -16,12 +17,33 @@ struct tagFrameBuffObject {
     int height;          ///< pixels
 };
 
+/// The first entry with that handle, or null. ZO_NO_HANDLE stands for the first free entry.
+template <typename Entry, size_t count>
+Entry* FirstEntry(Entry (&entries)[count], unsigned int handle) {
+    for (Entry& entry : entries) {
+        if (entry.handle == handle) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+/// The entry with that handle, or null. A client can pass ZO_NO_HANDLE: it never matches.
+template <typename Entry, size_t count>
+Entry* FindEntry(Entry (&entries)[count], unsigned int handle) {
+    if (handle == ZO_NO_HANDLE) {
+        return nullptr;
+    }
+    Entry* likely =
+        &entries[handle % count]; // most buffers are in the slot that their number names
+    return likely->handle == handle ? likely : FirstEntry(entries, handle);
+}
+
 /// A fixed table of render targets, looked up by handle. Allocates nothing.
 ///
 /// Slot 0 is the window under ZO_WINDOW_HANDLE; slots 1 to 15 hold the off-screen buffers, each a
 /// texture attached to a framebuffer object, both owned by the pool. A buffer that is created again
-/// keeps the handle that it had, whatever slot it gets now, so a handle is never decoded; new
-/// handles differ from all that are in use.
+/// keeps its handle, whatever slot it gets. New handles differ from all that are in use.
 class ZOGLES_API FBOManager {
 public:
     static constexpr int slotCount = 16;
@@ -44,12 +66,19 @@ public:
     /// Chooses the handle of the next buffer: the number of its slot or, where a buffer or a record
     /// has that number, the lowest that neither has.
     /// @param records buffers that are to be created again
-    /// @return ZO_NO_HANDLE if no number is left; meaningless if no slot is free
+    /// @return ZO_NO_HANDLE if no number or no slot is left
     unsigned int NewHandle(const TagFboInfo (&records)[slotCount]) const;
 
     /// Copies the target with that handle, the window included.
     /// @return whether there is one; `out` is untouched if not
-    bool GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const;
+    bool GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const {
+        const tagFrameBuffObject* target = FindEntry(slots, handle);
+        if (target == nullptr) {
+            return false;
+        }
+        *out = *target;
+        return true;
+    }
 
     /// Destroys an off-screen buffer; any other handle is logged.
     void GLDestoryFBO(unsigned int handle);
@@ -64,8 +93,6 @@ public:
     void InitFBO(tagFrameBuffObject* fbo) const;
 
 private:
-    int FreeSlot() const;
-
     tagFrameBuffObject slots[slotCount];
 };
 

@@ -4,25 +4,33 @@
 
 #include <new>
 
-int BuildProgram(const char* tag, const char* vertexSource, const char* fragmentSource,
-                 std::unique_ptr<ShaderProgram>& helper, GLuint& program) {
-    helper.reset(new (std::nothrow) ShaderProgram());
-    program = helper ? helper->CreateProgram(vertexSource, fragmentSource) : 0;
+int BuildRenderer(const ProgramSource& source, const RendererObjects& objects,
+                  const Location& attribute, std::initializer_list<Location> uniforms) {
+    ReleaseRenderer(objects);
+    objects.helper.reset(new (std::nothrow) ShaderProgram());
+    const ShaderProgram* helper = objects.helper.get();
+    const GLuint program =
+        helper == nullptr ? 0 : helper->CreateProgram(source.vertex, source.fragment);
     if (program == 0) {
-        __android_log_print(LogError, tag, "create shader program fail");
+        __android_log_print(LogError, source.tag, "create shader program fail");
         return ZO_PROGRAM_FAILED;
     }
+    objects.program = program;
+    attribute.value = helper->GetAttribLocation(program, attribute.name);
+    for (const Location& uniform : uniforms) {
+        uniform.value = helper->GetUniformLocation(program, uniform.name);
+    }
+    glGenBuffers(1, &objects.vertexBuffer);
     return ZO_SUCCESS;
 }
 
-void ReleaseObjects(const std::unique_ptr<ShaderProgram>& helper, GLuint& program,
-                    GLuint& vertexBuffer) {
-    if (vertexBuffer != 0) {
-        glDeleteBuffers(1, &vertexBuffer);
-        vertexBuffer = 0;
+void ReleaseRenderer(const RendererObjects& objects) {
+    if (objects.vertexBuffer != 0) {
+        glDeleteBuffers(1, &objects.vertexBuffer);
+        objects.vertexBuffer = 0;
     }
-    if (helper) {
-        helper->ReleaseProgram(program);
-        program = 0;
+    if (objects.helper) {
+        objects.helper->ReleaseProgram(objects.program);
+        objects.program = 0;
     }
 }

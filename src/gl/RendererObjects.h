@@ -1,21 +1,49 @@
 /// @file
-/// The GL objects that every renderer has: a program, built by a helper of its own, and a buffer.
+/// The GL objects of a renderer: a program, built by its helper, and a vertex buffer.
 #ifndef ZOGLES_GL_RENDEREROBJECTS_H
 #define ZOGLES_GL_RENDEREROBJECTS_H
 
 #include "gl/ShaderProgram.h"
 
 #include <GLES2/gl2.h>
+#include <initializer_list>
 #include <memory>
 
-/// Builds a renderer's program with a new helper, or logs under the renderer's tag.
-/// @return ZO_SUCCESS or ZO_PROGRAM_FAILED, with `program` 0 then
-int BuildProgram(const char* tag, const char* vertexSource, const char* fragmentSource,
-                 std::unique_ptr<ShaderProgram>& helper, GLuint& program);
+/// What a renderer's program is built from.
+struct ProgramSource {
+    const char* tag; ///< the renderer's, for the log
+    const char* vertex;
+    const char* fragment;
+};
 
-/// Deletes buffer and program, those that exist. Harmless after the context is gone. The helper is
-/// kept: it is destroyed with the renderer's members, after the glyph map.
-void ReleaseObjects(const std::unique_ptr<ShaderProgram>& helper, GLuint& program,
-                    GLuint& vertexBuffer);
+/// The renderer's members for its objects.
+struct RendererObjects {
+    std::unique_ptr<ShaderProgram>& helper;
+    GLuint& program;
+    GLuint& vertexBuffer;
+};
+
+/// A variable of the program, and the member that receives its location.
+struct Location {
+    const char* name;
+    GLint& value;
+};
+
+/// Passes on a position and the texture coordinates beside it.
+constexpr char texturedVertexSource[] = "attribute vec4 coord;\n"
+                                        "varying vec2 texpos;\n"
+                                        "void main() {\n"
+                                        "    gl_Position = vec4(coord.xy, 0, 1);\n"
+                                        "    texpos = coord.zw;\n"
+                                        "}\n";
+
+/// Replaces a renderer's objects by new ones and looks up the attribute, then the uniforms.
+/// @return ZO_SUCCESS, or ZO_PROGRAM_FAILED, which is logged: `program` and `vertexBuffer` are 0 then
+int BuildRenderer(const ProgramSource& source, const RendererObjects& objects,
+                  const Location& attribute, std::initializer_list<Location> uniforms);
+
+/// Deletes buffer and program, those that exist. Harmless after the context is gone. The helper
+/// stays: it is destroyed with the renderer's other members, in their order.
+void ReleaseRenderer(const RendererObjects& objects);
 
 #endif

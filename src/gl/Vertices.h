@@ -1,24 +1,35 @@
 /// @file
-/// The one way in which vertices reach GL: a renderer's own buffer, filled anew for every draw.
+/// Vertices, and the one way in which they reach GL: a renderer's buffer, refilled for every draw.
 #ifndef ZOGLES_GL_VERTICES_H
 #define ZOGLES_GL_VERTICES_H
 
 #include <GLES2/gl2.h>
 #include <cstddef>
 
-/// One vertex: a position, and two floats whose meaning is the shader's (z and w, or the texture
-/// coordinates s and t).
-struct Vertex {
-    float x;
-    float y;
-    float s;
-    float t;
-};
-static_assert(sizeof(Vertex) == 4 * sizeof(float));
+/// One vertex: a position, and two floats whose meaning depends on the shader (z and w, or the texture
+/// coordinates s and t). Arithmetic applies to each of the four floats by itself, as GCC and Clang
+/// define it for vector types.
+using Vertex = float __attribute__((vector_size(4 * sizeof(float))));
 
-/// Feeds the attribute at `location` from `buffer`. Where the driver had no name left for a buffer,
-/// which is 0 then, GL would read vertices at address 0: the attribute stays off, so that all
-/// vertices fall on one point and nothing is drawn.
+/// The corners of a rectangle, by their place on the screen.
+struct Corners {
+    Vertex topLeft;
+    Vertex topRight;
+    Vertex bottomLeft;
+    Vertex bottomRight;
+};
+
+/// Spans a rectangle. Exact: a float multiplied by 1, or with 0 added, keeps its value.
+/// @param diagonal from the top-left to the bottom-right corner
+inline Corners SpanCorners(Vertex topLeft, Vertex diagonal) {
+    const Vertex across = {1.0f, 0.0f, 1.0f, 0.0f};
+    const Vertex down = {0.0f, 1.0f, 0.0f, 1.0f};
+    return {topLeft, topLeft + diagonal * across, topLeft + diagonal * down, topLeft + diagonal};
+}
+
+/// Feeds the attribute at `location` from `buffer`. If `glGenBuffers` returned 0, GL would read
+/// vertices at address 0: the attribute stays disabled then, and nothing is drawn because all
+/// vertices coincide.
 inline void BindVertices(GLint location, GLuint buffer) {
     if (buffer != 0) {
         glEnableVertexAttribArray(static_cast<GLuint>(location));

@@ -1,20 +1,19 @@
 #include "osd/OSDBitmap.h"
 
-#include "gl/RenderTarget.h"
 #include "gl/Texture.h"
 #include "osd/TexturedQuad.h"
-#include "surface/Components.h"
 
 OSDBitmap::OSDBitmap()
     : texture(0), program(0), vertexBuffer(0), texLocation(0), coordLocation(0) {}
 
 OSDBitmap::~OSDBitmap() {
-    ReleaseObjects(shaderProgram, program, vertexBuffer);
+    ReleaseRenderer({shaderProgram, program, vertexBuffer});
 }
 
 int OSDBitmap::Init() {
-    return InitTexturedQuad("OSDBitmap", shaderProgram, program, vertexBuffer, coordLocation,
-                            texLocation);
+    return BuildRenderer({"OSDBitmap", texturedVertexSource, texturedFragmentSource},
+                         {shaderProgram, program, vertexBuffer}, {"coord", coordLocation},
+                         {{"tex", texLocation}});
 }
 
 void OSDBitmap::CreateTexture(const tagBitmapInfo* info) {
@@ -37,19 +36,11 @@ void OSDBitmap::DeleteTexture() {
 }
 
 void OSDBitmap::RenderBimap(const tagRectInfo* rect) const {
-    // Client rows start at the top, as do the texture's here, so this quad is not a buffer's.
-    const float left = rect->x;
-    const float right = rect->x + rect->width;
-    const float top = rect->y;
-    const float bottom = rect->y - rect->height;
-    const Vertex quad[4] = {
-        {left, top, 0.0f, 0.0f},
-        {right, top, 1.0f, 0.0f},
-        {left, bottom, 0.0f, 1.0f},
-        {right, bottom, 1.0f, 1.0f},
-    };
+    // Client rows run from the top, so t = 0 is the top.
+    const Corners corners = SpanCorners(Vertex{rect->x, rect->y, 0.0f, 0.0f},
+                                        Vertex{rect->width, -rect->height, 1.0f, 1.0f});
     BindVertices(coordLocation, vertexBuffer);
-    DrawQuad(quad);
+    DrawQuad({corners.topLeft, corners.topRight, corners.bottomLeft, corners.bottomRight});
     UnbindVertices(coordLocation);
 }
 
@@ -63,28 +54,4 @@ void OSDBitmap::DrawBitmap(const tagBitmapInfo* info, int width, int height) {
     glDisable(GL_BLEND);
     glBindTexture(GL_TEXTURE_2D, 0);
     DeleteTexture();
-}
-
-int ZoGLDrawSurface::OSDBitmapInit(unsigned int flags) {
-    if ((flags & ZO_COMPONENT_BITMAP) == 0) {
-        return ZO_SUCCESS;
-    }
-    return InstallComponent(osdBitmap, "OSD bitmap fail %d\n");
-}
-
-int ZoGLDrawSurface::ZoDisplayBitmap(const tagZoBitmapInfo* info) {
-    if (info == nullptr) {
-        return RefuseNull();
-    }
-    int code = osdBitmap ? ZO_SUCCESS : OSDBitmapInit(ZO_COMPONENT_BITMAP);
-    tagBitmapInfo bitmap;
-    if (code == ZO_SUCCESS) {
-        code = ZeroRecord(&bitmap);
-    }
-    if (code != ZO_SUCCESS) {
-        return code;
-    }
-    SetBitmapInfo(&bitmap, info, windowWidth, windowHeight);
-    osdBitmap->DrawBitmap(&bitmap, static_cast<int>(windowWidth), static_cast<int>(windowHeight));
-    return ZO_SUCCESS;
 }

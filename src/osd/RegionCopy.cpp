@@ -1,6 +1,5 @@
 #include "osd/RegionCopy.h"
 
-#include "gl/RenderTarget.h"
 #include "gl/Texture.h"
 
 #include <algorithm>
@@ -27,10 +26,6 @@ float Rebase(float position, int size, Span span) {
            static_cast<float>(span.length);
 }
 
-float Rescale(float extent, int size, Span span) {
-    return extent * static_cast<float>(size) / static_cast<float>(span.length);
-}
-
 } // namespace
 
 bool CopySource(tagBlitInfo* blit) {
@@ -51,6 +46,7 @@ bool CopySource(tagBlitInfo* blit) {
     ClampToEdge();
     blit->src.texture = texture;
     blit->srcRect = {Rebase(rect.x, width, columns), Rebase(rect.y, height, rows),
-                     Rescale(rect.width, width, columns), Rescale(rect.height, height, rows)};
+                     Rebase(rect.width, width, {0, columns.length}),
+                     Rebase(rect.height, height, {0, rows.length})};
     return true;
 }

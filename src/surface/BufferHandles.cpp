@@ -1,13 +1,12 @@
 // The off-screen buffers' handles, and the table that brings the buffers back after the loss of the
 // GL context.
 
-#include "gl/FBOManager.h"
-#include "surface/Results.h"
+#include "surface/Operations.h"
 
 #include <GLES2/gl2.h>
 #include <new>
 
-// Puts a new pool in the place of the one there is.
+// Replaces the pool, with its buffers, by a new one.
 int ZoGLDrawSurface::CreatePool() {
     FBOManager* pool = new (std::nothrow)
         FBOManager(static_cast<int>(windowWidth), static_cast<int>(windowHeight));
@@ -16,19 +15,6 @@ int ZoGLDrawSurface::CreatePool() {
     }
     fboManager.reset(pool);
     return ZO_SUCCESS;
-}
-
-// Copies the target that an operation names, or logs why there is none.
-int ZoGLDrawSurface::FindTarget(unsigned int handle, tagFrameBuffObject* target) {
-    int code = EnsurePool();
-    if (code == ZO_SUCCESS) {
-        code = ZeroRecord(target);
-    }
-    if (code != ZO_SUCCESS || fboManager->GetFBOInst(handle, target)) {
-        return code;
-    }
-    __android_log_print(LogError, surfaceTag, "There is not the fbo\n");
-    return ZO_INVALID_PARAM;
 }
 
 int ZoGLDrawSurface::ZoCreateGLFBO(unsigned int* handle, unsigned int width, unsigned int height,
@@ -41,15 +27,14 @@ int ZoGLDrawSurface::ZoCreateGLFBO(unsigned int* handle, unsigned int width, uns
         __android_log_print(LogError, surfaceTag, "no window is bound, FBO is not created\n");
         return ZO_FAILURE;
     }
-    int code = EnsurePool();
-    if (code != ZO_SUCCESS) {
+    if (const int code = EnsurePool(); code != ZO_SUCCESS) {
         return code;
     }
     const int glFormat = static_cast<int>(ConvertFormatToGLES(format));
     // A pool made while unbound lacks the recorded buffers, and would reissue their handles.
     unsigned int newHandle = fboManager->NewHandle(fboInfo);
-    code = fboManager->GLCreateFBO(&newHandle, static_cast<int>(width), static_cast<int>(height),
-                                   glFormat, true);
+    const int code = fboManager->GLCreateFBO(&newHandle, static_cast<int>(width),
+                                             static_cast<int>(height), glFormat, true);
     if (code != ZO_SUCCESS) {
         __android_log_print(LogError, surfaceTag, "Create FBO fail %d\n", code);
         return ToError(code);
@@ -74,15 +59,14 @@ int ZoGLDrawSurface::ResetFboSource() {
         __android_log_print(LogError, surfaceTag, "no window is bound, FBOs are not restored\n");
         return ZO_FAILURE;
     }
-    int code = CreatePool();
-    if (code != ZO_SUCCESS) {
+    if (const int code = CreatePool(); code != ZO_SUCCESS) {
         return code;
     }
     for (TagFboInfo& entry : fboInfo) {
         if (entry.handle == ZO_NO_HANDLE) {
             continue;
         }
-        code =
+        const int code =
             fboManager->GLCreateFBO(&entry.handle, entry.width, entry.height, entry.format, true);
         if (code != ZO_SUCCESS) {
             __android_log_print(LogError, surfaceTag, "Reset FBO source fail %d, fbo %u\n", code,
@@ -100,7 +84,7 @@ void ZoGLDrawSurface::FBOManagerInit(unsigned int flags) {
 }
 
 void ZoGLDrawSurface::SaveFboInfo(unsigned int handle, int width, int height, int format) {
-    TagFboInfo* entry = FindFboInfo(ZO_NO_HANDLE);
+    TagFboInfo* entry = FirstEntry(fboInfo, ZO_NO_HANDLE);
     if (entry == nullptr) {
         __android_log_print(LogError, surfaceTag, "num of the FBO more than max num %d \n",
                             fboInfoCount);
@@ -109,24 +93,13 @@ void ZoGLDrawSurface::SaveFboInfo(unsigned int handle, int width, int height, in
     *entry = {handle, width, height, format};
 }
 
-// An empty entry carries ZO_NO_HANDLE, which a client can pass, too: it must not be found here.
 void ZoGLDrawSurface::RemoveFBO(unsigned int handle) {
-    TagFboInfo* entry = handle == ZO_NO_HANDLE ? nullptr : FindFboInfo(handle);
+    TagFboInfo* entry = FindEntry(fboInfo, handle);
     if (entry == nullptr) {
         __android_log_print(LogError, surfaceTag, "FBO is not exist fboHandleIndex %u\n", handle);
         return;
     }
     InitFBO(entry);
-}
-
-// The first entry with that handle; for ZO_NO_HANDLE, the first empty one.
-TagFboInfo* ZoGLDrawSurface::FindFboInfo(unsigned int handle) {
-    for (TagFboInfo& entry : fboInfo) {
-        if (entry.handle == handle) {
-            return &entry;
-        }
-    }
-    return nullptr;
 }
 
 void ZoGLDrawSurface::InitFBO(TagFboInfo* entry) const {

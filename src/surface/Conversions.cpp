@@ -1,4 +1,4 @@
-#include "surface/Conversions.h"
+#include "surface/Operations.h"
 
 #include <GLES2/gl2.h>
 #include <cfloat>
@@ -47,13 +47,15 @@ unsigned int ZoGLDrawSurface::ConvertFormatToGLES(int format) const {
 void ZoGLDrawSurface::ScreenCoordToVCoord(const tagZoRectInfo* in, tagRectInfo* out,
                                           unsigned int targetWidth,
                                           unsigned int targetHeight) const {
-    ToVertexSpace(*in, targetWidth, targetHeight, out);
+    const Size target = {targetWidth, targetHeight};
+    *out = target.IsEmpty() ? *out : ToVertexSpace(*in, target);
 }
 
 void ZoGLDrawSurface::ScreenCoordToFboCoord(const tagZoRectInfo* in, tagRectInfo* out,
                                             unsigned int targetWidth,
                                             unsigned int targetHeight) const {
-    ToTextureSpace(*in, targetWidth, targetHeight, out);
+    const Size target = {targetWidth, targetHeight};
+    *out = target.IsEmpty() ? *out : ToTextureSpace(*in, target);
 }
 
 void ZoGLDrawSurface::ConvertGLColor(const tagZoColorRGBA* in, tagColorRGBA* out) const {
@@ -78,5 +80,5 @@ void ZoGLDrawSurface::SetBitmapInfo(tagBitmapInfo* out, const tagZoBitmapInfo* i
     out->width = static_cast<int>(in->width);
     out->height = static_cast<int>(in->height);
     out->format = ConvertFormatToGLES(in->format);
-    ToVertexSpace(in->rect, targetWidth, targetHeight, &out->rect);
+    ScreenCoordToVCoord(&in->rect, &out->rect, targetWidth, targetHeight);
 }

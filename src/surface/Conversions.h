@@ -8,32 +8,39 @@
 
 #include <array>
 
-/// Pixels to vertex space. A target of width or height 0 has none: `out` is untouched then.
-inline void ToVertexSpace(const tagZoRectInfo& in, unsigned int targetWidth,
-                          unsigned int targetHeight, tagRectInfo* out) {
-    if (targetWidth == 0 || targetHeight == 0) {
-        return;
+/// Width and height in pixels.
+struct Size {
+    unsigned int width;
+    unsigned int height;
+
+    bool IsEmpty() const { return width == 0 || height == 0; }
+};
+
+/// Pixels to vertex space; all zero for an empty target.
+inline tagRectInfo ToVertexSpace(const tagZoRectInfo& rect, Size target) {
+    if (target.IsEmpty()) {
+        return {};
     }
-    const float x = static_cast<float>(in.x);
-    const float y = static_cast<float>(in.y);
-    const float width = static_cast<float>(in.width);
-    const float height = static_cast<float>(in.height);
-    out->x = (x + x) / static_cast<float>(targetWidth) + -1.0f;
-    out->y = 1.0f - (y + y) / static_cast<float>(targetHeight);
-    out->width = (width + width) / static_cast<float>(targetWidth);
-    out->height = (height + height) / static_cast<float>(targetHeight);
+    const auto twice = [](unsigned int pixels) {
+        return static_cast<float>(pixels) + static_cast<float>(pixels);
+    };
+    const float targetWidth = static_cast<float>(target.width);
+    const float targetHeight = static_cast<float>(target.height);
+    return {twice(rect.x) / targetWidth + -1.0f, 1.0f - twice(rect.y) / targetHeight,
+            twice(rect.width) / targetWidth, twice(rect.height) / targetHeight};
 }
 
-/// Pixels to texture space, with the same guard.
-inline void ToTextureSpace(const tagZoRectInfo& in, unsigned int targetWidth,
-                           unsigned int targetHeight, tagRectInfo* out) {
-    if (targetWidth == 0 || targetHeight == 0) {
-        return;
+/// Pixels to texture space; all zero for an empty target.
+inline tagRectInfo ToTextureSpace(const tagZoRectInfo& rect, Size target) {
+    if (target.IsEmpty()) {
+        return {};
     }
-    out->x = static_cast<float>(in.x) / static_cast<float>(targetWidth);
-    out->y = 1.0f - static_cast<float>(in.y) / static_cast<float>(targetHeight);
-    out->width = static_cast<float>(in.width) / static_cast<float>(targetWidth);
-    out->height = static_cast<float>(in.height) / static_cast<float>(targetHeight);
+    const float targetWidth = static_cast<float>(target.width);
+    const float targetHeight = static_cast<float>(target.height);
+    return {static_cast<float>(rect.x) / targetWidth,
+            1.0f - static_cast<float>(rect.y) / targetHeight,
+            static_cast<float>(rect.width) / targetWidth,
+            static_cast<float>(rect.height) / targetHeight};
 }
 
 constexpr std::array<float, 256> MakeChannelIntensity() {

@@ -1,29 +1,19 @@
-// Binding to a window, letting go of it, and what hangs on both.
+// Binding, release and teardown order.
 
 #include "gl/EGLManager.h"
-#include "gl/FBOManager.h"
 #include "osd/OSDBitmap.h"
 #include "osd/OSDBlit.h"
 #include "osd/OSDFrame.h"
 #include "osd/OSDRect.h"
-#include "surface/Results.h"
+#include "surface/Operations.h"
 #include "text/FontAtlas.h"
 #include "text/FontStyleAtlas.h"
 #include "text/OSDText.h"
 
 #include <new>
 
-namespace {
-
-constexpr unsigned int defaultWindowWidth = 1920;
-constexpr unsigned int defaultWindowHeight = 1080;
-
-} // namespace
-
 // cppcheck-suppress uninitMemberVar; InitFBO fills the table of buffers
-ZoGLDrawSurface::ZoGLDrawSurface()
-    : windowWidth(defaultWindowWidth), windowHeight(defaultWindowHeight), fontLoaded(false),
-      surfaceCreated(false) {
+ZoGLDrawSurface::ZoGLDrawSurface() {
     for (TagFboInfo& entry : fboInfo) {
         InitFBO(&entry);
     }
@@ -44,14 +34,10 @@ int ZoGLDrawSurface::ZoCreateGLWindowSurface(ANativeWindow* window) {
             return RefuseMemory();
         }
     }
-    int code = ZO_SUCCESS;
-    if (surfaceCreated) {
-        __android_log_print(LogWarning, surfaceTag, "ReCreate GL window\n");
-        code = eglManager->ReCreateWindowSurface(window);
-    } else {
-        __android_log_print(LogWarning, surfaceTag, "Create GL window\n");
-        code = eglManager->CreateWindowSurface(window);
-    }
+    __android_log_print(LogWarning, surfaceTag,
+                        surfaceCreated ? "ReCreate GL window\n" : "Create GL window\n");
+    int code = surfaceCreated ? eglManager->ReCreateWindowSurface(window)
+                              : eglManager->CreateWindowSurface(window);
     if (code != ZO_SUCCESS) {
         __android_log_print(LogError, surfaceTag, "Create openGLES window surface fail %d\n", code);
         ResetGLSource();
@@ -96,23 +82,22 @@ void ZoGLDrawSurface::ResetGLSource() {
 }
 
 int ZoGLDrawSurface::Init(unsigned int flags) {
-    int code = osdText ? ZO_SUCCESS : OSDTextInit(flags);
-    if (code == ZO_SUCCESS && !osdBlit) {
-        code = OSDBlitInit(flags);
+    if (const int code = osdText ? ZO_SUCCESS : OSDTextInit(flags); code != ZO_SUCCESS) {
+        return code;
     }
-    if (code == ZO_SUCCESS && !osdBitmap) {
-        code = OSDBitmapInit(flags);
+    if (const int code = osdBlit ? ZO_SUCCESS : OSDBlitInit(flags); code != ZO_SUCCESS) {
+        return code;
     }
-    if (code == ZO_SUCCESS && !osdFrame) {
-        code = OSDFrameInit(flags);
+    if (const int code = osdBitmap ? ZO_SUCCESS : OSDBitmapInit(flags); code != ZO_SUCCESS) {
+        return code;
     }
-    if (code == ZO_SUCCESS && !osdRect) {
-        code = OSDRectInit(flags);
+    if (const int code = osdFrame ? ZO_SUCCESS : OSDFrameInit(flags); code != ZO_SUCCESS) {
+        return code;
     }
-    if (code == ZO_SUCCESS && (flags & ZO_COMPONENT_FBO) != 0) {
-        code = EnsurePool();
+    if (const int code = OSDRectInit(flags); code != ZO_SUCCESS) {
+        return code;
     }
-    return code;
+    return (flags & ZO_COMPONENT_FBO) != 0 ? EnsurePool() : ZO_SUCCESS;
 }
 
 int ZoGLDrawSurface::ZoRefreshOnSrceen() const {

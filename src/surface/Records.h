@@ -3,8 +3,6 @@
 #ifndef ZOGLES_SURFACE_RECORDS_H
 #define ZOGLES_SURFACE_RECORDS_H
 
-#include "platform/Log.h"
-#include "platform/MemsetS.h"
 #include "zogles/ZoGLDrawSurface.h"
 
 /// A rectangle in one of two spaces, fixed by who reads it.
@@ -50,20 +48,5 @@ struct tagBitmapInfo {
     int height;       ///< pixels
     unsigned int format;
 };
-
-/// The tag of every line that the surface's own operations log.
-constexpr char surfaceTag[] = "ZoGLDrawSurface";
-
-/// Zeroes a record, or logs why not.
-/// @return ZO_SUCCESS or ZO_FAILURE
-template <typename Record>
-int ZeroRecord(Record* record) {
-    const int rc = memset_s(record, sizeof(Record), 0, sizeof(Record));
-    if (rc != 0) {
-        __android_log_print(LogError, surfaceTag, "memset_s_func failed, rc = %d", rc);
-        return ZO_FAILURE;
-    }
-    return ZO_SUCCESS;
-}
 
 #endif

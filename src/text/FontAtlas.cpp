@@ -1,9 +1,6 @@
 #include "text/FontAtlas.h"
 
-#include "surface/Results.h"
 #include "text/GlyphTexture.h"
-
-#include <new>
 
 namespace {
 
@@ -12,8 +9,7 @@ namespace {
 constexpr FT_ULong lastCharacter = 0x10FFFF;
 
 // Calls `visit` with every character that the face maps, rendered, in ascending order.
-template <typename Visit>
-void WalkFace(FT_Face face, Visit visit) {
+constexpr auto visitFace = [](const auto& visit, FT_Face face) {
     FT_UInt index = 0;
     for (FT_ULong code = FT_Get_First_Char(face, &index); index != 0 && code <= lastCharacter;
          code = FT_Get_Next_Char(face, code, &index)) {
@@ -24,7 +20,7 @@ void WalkFace(FT_Face face, Visit visit) {
         }
         visit(face->glyph, code);
     }
-}
+};
 
 } // namespace
 
@@ -51,26 +47,11 @@ int FontAtlas::LoadFontByPath(const char* path, unsigned int size) {
 int FontAtlas::LoadFont(FT_Face face, unsigned int size) {
     DeleteTexture();
     SetPixelSize(standardAtlas.tag, face, size);
-    int code = CalculateTexSize(face);
-    if (code == ZO_SUCCESS) {
-        code = CreateAtlasTex();
-    }
-    if (code != ZO_SUCCESS) {
-        return code;
-    }
-    try {
-        FontToTexture(face);
-    } catch (const std::bad_alloc&) {
-        code = RefuseMemory(standardAtlas.tag);
-        DeleteTexture();
-    }
-    glBindTexture(GL_TEXTURE_2D, 0);
-    return code;
+    return BuildAtlas(standardAtlas, *this, &FontAtlas::CreateAtlasTex, face);
 }
 
 int FontAtlas::CalculateTexSize(FT_Face face) {
-    return SizeAtlas(
-        standardAtlas, [face](auto visit) { WalkFace(face, visit); }, width, height);
+    return SizeAtlas(standardAtlas, width, height, visitFace, face);
 }
 
 int FontAtlas::CreateAtlasTex() {
@@ -79,11 +60,7 @@ int FontAtlas::CreateAtlasTex() {
 }
 
 void FontAtlas::FontToTexture(FT_Face face) {
-    FillAtlas(
-        standardAtlas, [face](auto visit) { WalkFace(face, visit); }, width, height,
-        [this](FT_GlyphSlot glyph, int x, int y, FT_ULong code) {
-            FontCharInfoToMap(glyph, x, y, code);
-        });
+    FillAtlas(standardAtlas, *this, visitFace, face);
     __android_log_print(LogWarning, standardAtlas.tag,
                         "Generated a %d x %d (%d kb) texture atlas\n", width, height,
                         (width * height) >> 10);
@@ -95,20 +72,4 @@ void FontAtlas::FontCharInfoToMap(FT_GlyphSlot glyph, int x, int y, unsigned lon
 
 void FontAtlas::DeleteTexture() {
     DropAtlas(texture, width, height, glyphs);
-}
-
-unsigned int FontAtlas::GetFontTexture() const {
-    return texture;
-}
-
-const GlyphMap& FontAtlas::GetGlyphs() const {
-    return glyphs;
-}
-
-unsigned int FontAtlas::GetFontTextureWidth() const {
-    return width;
-}
-
-unsigned int FontAtlas::GetFontTextureHeight() const {
-    return height;
 }

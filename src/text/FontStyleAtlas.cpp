@@ -1,9 +1,6 @@
 #include "text/FontStyleAtlas.h"
 
-#include "surface/Results.h"
 #include "text/GlyphTexture.h"
-
-#include <new>
 
 namespace {
 
@@ -12,8 +9,7 @@ constexpr FT_Matrix slant = {0x10000, 0x3333, 0, 0x10000};
 
 // Calls `visit` with every unit of the text that can be loaded, rendered, in order. Heavier strokes
 // are made here, so that sizing and rendering see the same bitmaps.
-template <typename Visit>
-void WalkText(FT_Face face, const tagTextInfo& info, Visit visit) {
+constexpr auto visitText = [](const auto& visit, FT_Face face, const tagTextInfo& info) {
     if (face == nullptr) {
         return;
     }
@@ -25,7 +21,7 @@ void WalkText(FT_Face face, const tagTextInfo& info, Visit visit) {
             visit(face->glyph, code);
         }
     }
-}
+};
 
 } // namespace
 
@@ -50,21 +46,10 @@ int FontStyleAtlas::GetFontTexture(const tagTextInfo* info, unsigned int* textur
     width = 0;
     height = 0;
     SetFontStyleAtlas(info);
-    int code = CalculateTexSize(info);
+    const int code = BuildAtlas(styledAtlas, *this, &FontStyleAtlas::CreateStyleTex, info);
     if (code == ZO_SUCCESS) {
-        code = CreateStyleTex();
-    }
-    if (code != ZO_SUCCESS) {
-        return code;
-    }
-    try {
-        FontToTexture(info);
         *textureOut = texture;
-    } catch (const std::bad_alloc&) {
-        code = RefuseMemory(styledAtlas.tag);
-        DeleteTexture();
     }
-    glBindTexture(GL_TEXTURE_2D, 0);
     return code;
 }
 
@@ -78,8 +63,7 @@ void FontStyleAtlas::SetFontStyleAtlas(const tagTextInfo* info) const {
 }
 
 int FontStyleAtlas::CalculateTexSize(const tagTextInfo* info) {
-    return SizeAtlas(
-        styledAtlas, [this, info](auto visit) { WalkText(face, *info, visit); }, width, height);
+    return SizeAtlas(styledAtlas, width, height, visitText, face, *info);
 }
 
 int FontStyleAtlas::CreateStyleTex() {
@@ -88,11 +72,7 @@ int FontStyleAtlas::CreateStyleTex() {
 }
 
 void FontStyleAtlas::FontToTexture(const tagTextInfo* info) {
-    FillAtlas(
-        styledAtlas, [this, info](auto visit) { WalkText(face, *info, visit); }, width, height,
-        [this](FT_GlyphSlot glyph, int x, int y, FT_ULong code) {
-            FontCharInfoToMap(glyph, x, y, code);
-        });
+    FillAtlas(styledAtlas, *this, visitText, face, *info);
 }
 
 void FontStyleAtlas::FontCharInfoToMap(FT_GlyphSlot glyph, int x, int y, unsigned long charCode) {
@@ -101,16 +81,4 @@ void FontStyleAtlas::FontCharInfoToMap(FT_GlyphSlot glyph, int x, int y, unsigne
 
 void FontStyleAtlas::DeleteTexture() {
     DropAtlas(texture, width, height, glyphs);
-}
-
-const GlyphMap& FontStyleAtlas::GetGlyphs() const {
-    return glyphs;
-}
-
-unsigned int FontStyleAtlas::GetFontTextureWidth() const {
-    return width;
-}
-
-unsigned int FontStyleAtlas::GetFontTextureHeight() const {
-    return height;
 }

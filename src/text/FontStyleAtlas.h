@@ -56,11 +56,11 @@ public:
     void DeleteTexture();
 
     /// The records, by UTF-16 unit.
-    const GlyphMap& GetGlyphs() const;
+    const GlyphMap& GetGlyphs() const { return glyphs; }
 
     /// Texture size in pixels.
-    unsigned int GetFontTextureWidth() const;
-    unsigned int GetFontTextureHeight() const;
+    unsigned int GetFontTextureWidth() const { return width; }
+    unsigned int GetFontTextureHeight() const { return height; }
 
 private:
     FT_Face face;

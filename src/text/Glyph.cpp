@@ -1,94 +1,93 @@
 #include "text/Glyph.h"
 
+#include <algorithm>
 #include <stdexcept>
 
-GlyphMap::Table::Table() : entries(1), pages(1), basic() {}
-
-std::uint32_t GlyphMap::Table::MakePageOf(unsigned long code) {
+// Where the entry of a code is, 0 for none so far.
+std::uint32_t* GlyphMap::Table::MakeIndex(unsigned long code) {
     const unsigned long number = code / pageSize;
-    std::uint32_t& page = number < basicPages ? basic[number] : higher[number];
-    if (page == 0) {
-        pages.emplace_back();
-        page = static_cast<std::uint32_t>(pages.size() - 1);
-    }
-    return page;
-}
-
-// The entry with the lowest code that is not below `code`, or null.
-const GlyphMap::value_type* GlyphMap::Table::FirstEntryFrom(unsigned long code) const {
-    const auto search = [this](std::uint32_t page, unsigned long slot) -> const value_type* {
-        while (slot < pageSize && pages[page].entry[slot] == 0) {
-            ++slot;
-        }
-        return slot == pageSize ? nullptr : &entries[pages[page].entry[slot]];
-    };
-    unsigned long number = code / pageSize;
-    unsigned long slot = code % pageSize;
-    for (; number < basicPages; ++number, slot = 0) {
-        const value_type* entry = basic[number] == 0 ? nullptr : search(basic[number], slot);
-        if (entry != nullptr) {
-            return entry;
+    auto page = pages.find(number);
+    if (page == pages.end()) {
+        const auto start = static_cast<std::uint32_t>(indices.size());
+        indices.resize(start + pageSize); // first, since memory may be refused
+        page = pages.emplace(number, start).first;
+        if (number < unitPages) {
+            startOfUnits[number] = start;
         }
     }
-    for (auto page = higher.lower_bound(number); page != higher.end(); ++page) {
-        const value_type* entry = search(page->second, page->first == number ? slot : 0);
-        if (entry != nullptr) {
-            return entry;
-        }
-    }
-    return nullptr;
+    return &indices[page->second + code % pageSize];
 }
 
-GlyphMap::const_iterator& GlyphMap::const_iterator::operator++() {
-    const unsigned long next = entry->first + 1;
-    entry = next == 0 ? nullptr : table->FirstEntryFrom(next); // no code comes after the highest
-    return *this;
-}
-
-void GlyphMap::Detach() {
+tagGlyphInfo& GlyphMap::operator[](unsigned long code) {
     if (!table) {
         table = std::make_shared<Table>();
     } else if (table.use_count() > 1) {
         table = std::make_shared<Table>(*table);
     }
-}
-
-tagGlyphInfo& GlyphMap::operator[](unsigned long code) {
-    Detach();
-    const std::uint32_t page = table->MakePageOf(code);
-    std::uint32_t& index = table->pages[page].entry[code % pageSize];
-    if (index == 0) {
+    std::uint32_t* index = table->MakeIndex(code);
+    if (*index == 0) {
         table->entries.emplace_back(code, tagGlyphInfo());
-        index = static_cast<std::uint32_t>(table->entries.size() - 1);
+        *index = static_cast<std::uint32_t>(table->entries.size() - 1);
     }
-    return table->entries[index].second;
+    return table->entries[*index].second;
 }
 
-GlyphMap::UnitReader GlyphMap::ReadUnits() const {
-    // Without a table, every unit leads to an entry of 0 of an empty page.
-    static constexpr Page nothing = {};
-    if (!table) {
-        return {nothing.entry, &nothing, nullptr};
-    }
-    return {table->basic, table->pages.data(), table->entries.data()};
+GlyphMap::Units GlyphMap::ReadUnits() const {
+    static constexpr std::uint32_t zeros[std::max(pageSize, unitPages)] = {};
+    static constexpr value_type absent = {};
+    return table ? Units{table->startOfUnits, table->indices.data(), table->entries.data()}
+                 : Units{zeros, zeros, &absent};
 }
 
 GlyphMap::const_iterator GlyphMap::find(unsigned long code) const {
-    return {table.get(), table ? table->FindEntry(code) : nullptr};
+    if (!table) {
+        return end();
+    }
+    const auto page = table->pages.find(code / pageSize);
+    const bool isThere =
+        page != table->pages.end() && table->indices[page->second + code % pageSize] != 0;
+    return isThere ? const_iterator(table.get(), page, code % pageSize) : end();
 }
 
 const tagGlyphInfo& GlyphMap::at(unsigned long code) const {
-    const tagGlyphInfo* glyph = Lookup(code);
-    if (glyph == nullptr) {
+    const const_iterator glyph = find(code);
+    if (glyph == end()) {
         throw std::out_of_range("GlyphMap::at");
     }
-    return *glyph;
+    return glyph->second;
+}
+
+size_t GlyphMap::count(unsigned long code) const {
+    return find(code) == end() ? 0 : 1;
 }
 
 GlyphMap::const_iterator GlyphMap::begin() const {
-    return {table.get(), table ? table->FirstEntryFrom(0) : nullptr};
+    return table ? const_iterator(table.get(), table->pages.begin(), 0) : end();
 }
 
 GlyphMap::const_iterator GlyphMap::end() const {
-    return {table.get(), nullptr};
+    return table ? const_iterator(table.get(), table->pages.end(), 0) : const_iterator();
+}
+
+GlyphMap::const_iterator& GlyphMap::const_iterator::operator++() {
+    *this = const_iterator(table, page, slot + 1);
+    return *this;
+}
+
+GlyphMap::const_iterator GlyphMap::const_iterator::operator++(int) {
+    const const_iterator before = *this;
+    ++*this;
+    return before;
+}
+
+// The first glyph that is not before that slot.
+GlyphMap::const_iterator::const_iterator(const Table* fromTable, Page atPage, unsigned long atSlot)
+    : table(fromTable), page(atPage), slot(atSlot) {
+    for (; page != table->pages.end(); ++page, slot = 0) {
+        for (; slot < pageSize; ++slot) {
+            if (table->indices[page->second + slot] != 0) {
+                return;
+            }
+        }
+    }
 }

@@ -5,7 +5,6 @@
 
 #include "gl/FBOManager.h"
 #include "gl/ShaderProgram.h"
-#include "gl/Vertices.h"
 #include "surface/Records.h"
 #include "text/FontAtlas.h"
 #include "text/FontStyleAtlas.h"
@@ -18,7 +17,7 @@
 class ZOGLES_API OSDText {
 public:
     /// Shares the atlases with the surface. Makes no GL call.
-    OSDText(std::shared_ptr<FontAtlas> standardAtlas, std::shared_ptr<FontStyleAtlas> styledAtlas);
+    OSDText(std::shared_ptr<FontAtlas> standard, std::shared_ptr<FontStyleAtlas> styled);
     ~OSDText();
 
     OSDText(const OSDText&) = delete;
@@ -59,10 +58,6 @@ public:
 
 private:
     int TryGLDrawText(const char16_t* text, unsigned int length, float x, float y);
-    void UploadAndDraw(const char16_t* text, unsigned int length, float x, float y,
-                       Vertex* scratch);
-    size_t PlaceGlyphs(const char16_t* text, unsigned int length, float x, float y,
-                       Vertex* vertices);
 
     std::shared_ptr<FontAtlas> fontAtlas;
     std::shared_ptr<FontStyleAtlas> fontStyleAtlas;

@@ -1,11 +1,8 @@
 // The surface's text operations.
 
-#include "surface/Components.h"
-#include "surface/Conversions.h"
-#include "text/GlyphRules.h"
+#include "surface/Operations.h"
+#include "text/FontFace.h"
 #include "text/OSDText.h"
-
-#include <new>
 
 namespace {
 
@@ -36,17 +33,14 @@ int ZoGLDrawSurface::ZoLoadFont(const char* path, unsigned int size) {
         __android_log_print(LogError, surfaceTag, "font lib path is nullptr\n");
         return ZO_INVALID_PARAM;
     }
-    int code = CreateAtlases();
-    if (code != ZO_SUCCESS) {
+    if (const int code = CreateAtlases(); code != ZO_SUCCESS) {
         return code;
     }
-    code = fontAtlas->LoadFontByPath(path, size);
-    if (code != ZO_SUCCESS) {
+    if (const int code = fontAtlas->LoadFontByPath(path, size); code != ZO_SUCCESS) {
         __android_log_print(LogError, surfaceTag, "Load standard font lib fail %d\n", code);
         return ToError(code);
     }
-    code = fontStyleAtlas->LoadFontByPath(path);
-    if (code != ZO_SUCCESS) {
+    if (const int code = fontStyleAtlas->LoadFontByPath(path); code != ZO_SUCCESS) {
         __android_log_print(LogError, surfaceTag, "Load dynamic font lib fail %d\n", code);
         return ToError(code);
     }
@@ -58,16 +52,13 @@ int ZoGLDrawSurface::OSDTextInit(unsigned int flags) {
     if ((flags & ZO_COMPONENT_TEXT) == 0) {
         return ZO_SUCCESS;
     }
-    int code = CreateAtlases();
-    if (code != ZO_SUCCESS) {
+    if (const int code = CreateAtlases(); code != ZO_SUCCESS) {
         return code;
     }
-    if (!fontLoaded) {
-        code = ZoLoadFont(defaultFontPath, standardFontSize);
-        if (code != ZO_SUCCESS) {
-            __android_log_print(LogError, surfaceTag, "Load font fail %d\n", code);
-            return code;
-        }
+    if (const int code = fontLoaded ? ZO_SUCCESS : ZoLoadFont(defaultFontPath, defaultFontSize);
+        code != ZO_SUCCESS) {
+        __android_log_print(LogError, surfaceTag, "Load font fail %d\n", code);
+        return code;
     }
     return InstallComponent(osdText, "OSD text init fail %d\n", fontAtlas, fontStyleAtlas);
 }
@@ -77,13 +68,13 @@ int ZoGLDrawSurface::ZoGetTextSize(const tagZoTextInfo* info, unsigned int* widt
     if (info == nullptr || width == nullptr || height == nullptr || IsTextMissing(*info)) {
         return RefuseNull();
     }
-    int code = osdText ? ZO_SUCCESS : OSDTextInit(ZO_COMPONENT_TEXT);
-    tagTextInfo text;
-    if (code == ZO_SUCCESS) {
-        code = ZeroRecord(&text);
-    }
-    if (code != ZO_SUCCESS) {
+    if (const int code = osdText ? ZO_SUCCESS : OSDTextInit(ZO_COMPONENT_TEXT);
+        code != ZO_SUCCESS) {
         return code;
+    }
+    tagTextInfo text;
+    if (!ZeroRecords(&text)) {
+        return ZO_FAILURE;
     }
     SetTextInfo(info, &text);
     osdText->GetTextSize(&text, width, height);
@@ -96,24 +87,20 @@ int ZoGLDrawSurface::ZoDrawText(unsigned int handle, const tagZoTextInfo* info,
         return RefuseNull();
     }
     tagFrameBuffObject target;
-    int code = FindTarget(handle, &target);
-    if (code == ZO_SUCCESS && !osdText) {
-        code = OSDTextInit(ZO_COMPONENT_TEXT);
-    }
-    tagTextInfo text;
-    if (code == ZO_SUCCESS) {
-        code = ZeroRecord(&text);
-    }
-    tagRectInfo start;
-    if (code == ZO_SUCCESS) {
-        code = ZeroRecord(&start);
-    }
-    if (code != ZO_SUCCESS) {
+    if (const int code = FindTarget(handle, &target); code != ZO_SUCCESS) {
         return code;
     }
+    if (const int code = osdText ? ZO_SUCCESS : OSDTextInit(ZO_COMPONENT_TEXT);
+        code != ZO_SUCCESS) {
+        return code;
+    }
+    tagTextInfo text;
+    tagRectInfo start;
+    if (!ZeroRecords(&text, &start)) {
+        return ZO_FAILURE;
+    }
     SetTextInfo(info, &text);
-    ToVertexSpace(*rect, static_cast<unsigned int>(target.width),
-                  static_cast<unsigned int>(target.height), &start);
-    code = osdText->DrawText(&target, &text, start.x, start.y);
+    start = ToVertexSpace(*rect, SizeOf(target));
+    const int code = osdText->DrawText(&target, &text, start.x, start.y);
     return code == ZO_SUCCESS ? ZO_SUCCESS : ToError(code);
 }

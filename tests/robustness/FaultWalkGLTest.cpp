@@ -2,6 +2,7 @@
 // each such call of it, and each time again without the fault.
 
 #include "Session.h"
+#include "platform/Log.h"
 #include "support/SurfaceFixture.h"
 
 #include <algorithm>

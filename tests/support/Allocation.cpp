@@ -47,6 +47,17 @@ void* operator new[](size_t size) {
 void* operator new[](size_t size, const std::nothrow_t&) noexcept {
     return Allocate(size);
 }
+// For types that ask for more alignment than `malloc` gives, such as vectors on 32-bit ARM.
+void* operator new[](size_t size, std::align_val_t alignment) {
+    void* memory = nullptr;
+    if (IsRefused() || posix_memalign(&memory, static_cast<size_t>(alignment), size) != 0) {
+        throw std::bad_alloc();
+    }
+    return memory;
+}
+void operator delete[](void* memory, std::align_val_t) noexcept {
+    free(memory);
+}
 void operator delete(void* memory) noexcept {
     free(memory);
 }

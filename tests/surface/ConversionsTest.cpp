@@ -1,5 +1,5 @@
 #include "support/SurfaceFixture.h"
-#include "surface/Results.h"
+#include "surface/Operations.h"
 
 #include <climits>
 
