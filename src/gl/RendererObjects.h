@@ -38,7 +38,7 @@ constexpr char texturedVertexSource[] = "attribute vec4 coord;\n"
                                         "}\n";
 
 /// Replaces a renderer's objects by new ones and looks up the attribute, then the uniforms.
-/// @return ZO_SUCCESS, or ZO_PROGRAM_FAILED, which is logged: `program` and `vertexBuffer` are 0 then
+/// @return ZO_SUCCESS, or ZO_PROGRAM_FAILED, which is logged: program and buffer are 0 then
 int BuildRenderer(const ProgramSource& source, const RendererObjects& objects,
                   const Location& attribute, std::initializer_list<Location> uniforms);
 

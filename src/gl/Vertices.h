@@ -6,9 +6,9 @@
 #include <GLES2/gl2.h>
 #include <cstddef>
 
-/// One vertex: a position, and two floats whose meaning depends on the shader (z and w, or the texture
-/// coordinates s and t). Arithmetic applies to each of the four floats by itself, as GCC and Clang
-/// define it for vector types.
+/// One vertex: a position, and two floats whose meaning depends on the shader (z and w, or the
+/// texture coordinates s and t). Arithmetic applies to each of the four floats by itself, as GCC and
+/// Clang define it for vector types.
 using Vertex = float __attribute__((vector_size(4 * sizeof(float))));
 
 /// The corners of a rectangle, by their place on the screen.

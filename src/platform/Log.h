@@ -24,7 +24,8 @@ __android_log_print(int prio, const char* tag, const char* fmt, ...);
 
 #endif
 
-/// The priorities in use, with the platform's numbers. The library logs at verbose, warning and error.
+/// The priorities in use, with the platform's numbers. The library logs at verbose, warning and
+/// error.
 enum LogPriority : int {
     LogVerbose = 2,
     LogDebug = 3,

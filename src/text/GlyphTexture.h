@@ -46,9 +46,9 @@ private:
     unsigned int largest = 0; ///< 0 until it is asked for
 };
 
-/// Creates a texture of one coverage byte per texel, without defined content, and leaves it bound on
-/// the kind's unit. Logs when the driver has no name for it. Exhausted driver memory is not detected:
-/// asking for GL errors would take a client's pending ones.
+/// Creates a texture of one coverage byte per texel, without defined content, and leaves it bound
+/// on the kind's unit. Logs when the driver has no name for it. Exhausted driver memory is not
+/// detected: asking for GL errors would take a client's pending ones.
 /// @return its name, or 0
 GLuint CreateGlyphTexture(const AtlasKind& kind, unsigned int width, unsigned int height);
 
@@ -71,8 +71,8 @@ int CheckAtlasSize(const AtlasKind& kind, unsigned int width, unsigned int heigh
 void ReportLeftOut(const AtlasKind& kind, unsigned int count);
 
 /// Sizes an atlas, or logs that it would be empty.
-/// @param visitGlyphs calls the function that it is given with each loaded slot of the source and its
-///     code
+/// @param visitGlyphs function of a function and the source: calls the function with each loaded
+///     slot and its code
 /// @return ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
 template <typename VisitGlyphs, typename... Source>
 int SizeAtlas(const AtlasKind& kind, unsigned int& width, unsigned int& height,

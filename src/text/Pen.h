@@ -19,8 +19,8 @@ inline bool IsShown(const tagGlyphInfo& glyph) {
     return glyph.bitmapWidth * glyph.bitmapHeight > 0.0f;
 }
 
-/// Sets glyphs side by side. Each step computes x, y, s and t at once; those that it leaves alone are
-/// multiplied or divided by 1, or have 0 added, which keeps them exact.
+/// Sets glyphs side by side. Each step computes x, y, s and t at once; those that it leaves alone
+/// are multiplied or divided by 1, or have 0 added, which keeps them exact.
 class Pen {
 public:
     static constexpr size_t verticesPerGlyph = 6;
