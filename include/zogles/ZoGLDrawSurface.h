@@ -9,11 +9,11 @@
 
 #include <memory>
 
-/// The version's first number: programs built for another one do not run with this library.
+/// Major version: programs built for another one do not run with this library.
 #define ZOGLES_VERSION_MAJOR 1
-/// The version's second number: higher ones have more, and all that was there.
+/// Minor version: adds features, stays compatible.
 #define ZOGLES_VERSION_MINOR 0
-/// The version's third number: higher ones differ in what was mended.
+/// Patch version: bug fixes only.
 #define ZOGLES_VERSION_PATCH 0
 
 #if defined(ZOGLES_STATIC)
@@ -22,6 +22,9 @@
 /// Marks what the shared library exports; nothing where ZOGLES_STATIC is defined.
 #define ZOGLES_API __attribute__((visibility("default")))
 #endif
+
+/// Marks inline functions that the shared library exports all the same.
+#define ZOGLES_INLINE ZOGLES_API __attribute__((used))
 
 /// The platform's native window. Where the platform has no such type of its own, the pointer is
 /// the EGL native window value itself: for X11
@@ -61,7 +64,7 @@ enum ZoResult : int {
     ZO_PROGRAM_FAILED = 20,     ///< a shader program could not be built
     ZO_FREETYPE_FAILED = 30,    ///< FreeType could not be initialised
     ZO_FONT_FACE_FAILED = 31,   ///< the font file could not be opened
-    ZO_FONT_ATLAS_EMPTY = 32,   ///< nothing of the font or text leaves a mark, or no font is open
+    ZO_FONT_ATLAS_EMPTY = 32,   ///< no visible glyph in the font or text, or no font is open
     ZO_FAILURE = 100,           ///< general failure; the log says which
     ZO_INVALID_PARAM = 101,  ///< a null pointer, an unknown handle, or a target of size 0 for text
     ZO_NO_FBO_MANAGER = 102, ///< a buffer was destroyed while there is no pool of buffers

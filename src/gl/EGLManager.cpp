@@ -42,15 +42,17 @@ int EGLManager::EGLSetupContext() {
     }
     __android_log_print(LogVerbose, tag, "Initialized EGL v%d.%d", major, minor);
 
-    const EGLint configAttributes[][2] = {{EGL_SURFACE_TYPE, EGL_WINDOW_BIT},
-                                          {EGL_RENDERABLE_TYPE, EGL_OPENGL_ES2_BIT},
-                                          {EGL_RED_SIZE, 8},
-                                          {EGL_GREEN_SIZE, 8},
-                                          {EGL_BLUE_SIZE, 8},
-                                          {EGL_ALPHA_SIZE, 8},
-                                          {EGL_NONE, EGL_NONE}};
+    // clang-format off
+    const EGLint configAttributes[] = {EGL_SURFACE_TYPE, EGL_WINDOW_BIT,
+                                       EGL_RENDERABLE_TYPE, EGL_OPENGL_ES2_BIT,
+                                       EGL_RED_SIZE, 8,
+                                       EGL_GREEN_SIZE, 8,
+                                       EGL_BLUE_SIZE, 8,
+                                       EGL_ALPHA_SIZE, 8,
+                                       EGL_NONE};
+    // clang-format on
     EGLint count = 0;
-    if (eglChooseConfig(display, configAttributes[0], &config, 1, &count) != EGL_TRUE) {
+    if (eglChooseConfig(display, configAttributes, &config, 1, &count) != EGL_TRUE) {
         LogEglError("eglChooseConfig error: %#x");
         return ZO_NO_CONFIG;
     }

@@ -47,10 +47,10 @@ public:
     void Release();
 
     /// Window width in pixels as last queried, also after a release.
-    EGLint GetWindowWidth() const { return width; }
+    ZOGLES_INLINE EGLint GetWindowWidth() const { return width; }
 
     /// Window height in pixels as last queried, also after a release.
-    EGLint GetWindowHeight() const { return height; }
+    ZOGLES_INLINE EGLint GetWindowHeight() const { return height; }
 
 private:
     int OpenSurface(ANativeWindow* window);

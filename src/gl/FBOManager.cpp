@@ -74,7 +74,7 @@ FBOManager::~FBOManager() {
 
 int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int format,
                             bool reuseHandle) {
-    const unsigned int number = reuseHandle ? *handle : NewHandle({});
+    const unsigned int number = reuseHandle ? *handle : NewHandle({}); // no records
     tagFrameBuffObject* slot = FirstEntry(slots, ZO_NO_HANDLE);
     if (slot == nullptr || number == ZO_NO_HANDLE) {
         __android_log_print(LogError, tag, "num of the FBO more than max num %d \n", slotCount);

@@ -17,9 +17,9 @@ struct tagFrameBuffObject {
     int height;          ///< pixels
 };
 
-/// The first entry with that handle, or null. ZO_NO_HANDLE stands for the first free entry.
+/// The first entry with that handle, or null; out of line, as most look-ups need none. Pass ZO_NO_HANDLE to find the first free entry.
 template <typename Entry, size_t count>
-Entry* FirstEntry(Entry (&entries)[count], unsigned int handle) {
+__attribute__((noinline)) Entry* FirstEntry(Entry (&entries)[count], unsigned int handle) {
     for (Entry& entry : entries) {
         if (entry.handle == handle) {
             return &entry;
@@ -34,8 +34,8 @@ Entry* FindEntry(Entry (&entries)[count], unsigned int handle) {
     if (handle == ZO_NO_HANDLE) {
         return nullptr;
     }
-    Entry* likely =
-        &entries[handle % count]; // most buffers are in the slot that their number names
+    // Most buffers are in the slot that their number names.
+    Entry* likely = &entries[handle % count];
     return likely->handle == handle ? likely : FirstEntry(entries, handle);
 }
 
@@ -60,6 +60,7 @@ public:
     /// @param handle receives the new handle; with `reuseHandle`, gives the one to use, where
     ///     ZO_NO_HANDLE counts as a full pool
     /// @param format GL pixel format of the texture
+    /// @pre with `reuseHandle`, the handle names no target yet
     /// @return ZO_SUCCESS, or ZO_NO_FREE_FBO, with `*handle` untouched
     int GLCreateFBO(unsigned int* handle, int width, int height, int format, bool reuseHandle);
 
@@ -71,7 +72,7 @@ public:
 
     /// Copies the target with that handle, the window included.
     /// @return whether there is one; `out` is untouched if not
-    bool GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const {
+    ZOGLES_INLINE bool GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const {
         const tagFrameBuffObject* target = FindEntry(slots, handle);
         if (target == nullptr) {
             return false;

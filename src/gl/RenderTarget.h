@@ -25,7 +25,7 @@ inline void ClearTarget(const tagColorRGBA& color, GLbitfield buffers) {
     glClear(buffers);
 }
 
-/// Blending as all operations that blend do it: one pair of factors for colour and alpha alike.
+/// Enables blending with one pair of factors for colour and alpha.
 inline void EnableBlending() {
     glEnable(GL_BLEND);
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);

@@ -8,9 +8,8 @@ int BuildRenderer(const ProgramSource& source, const RendererObjects& objects,
                   const Location& attribute, std::initializer_list<Location> uniforms) {
     ReleaseRenderer(objects);
     objects.helper.reset(new (std::nothrow) ShaderProgram());
-    const ShaderProgram* helper = objects.helper.get();
-    const GLuint program =
-        helper == nullptr ? 0 : helper->CreateProgram(source.vertex, source.fragment);
+    const auto& helper = objects.helper;
+    const GLuint program = helper ? helper->CreateProgram(source.vertex, source.fragment) : 0;
     if (program == 0) {
         __android_log_print(LogError, source.tag, "create shader program fail");
         return ZO_PROGRAM_FAILED;

@@ -29,7 +29,7 @@ struct Location {
     GLint& value;
 };
 
-/// Passes on a position and the texture coordinates beside it.
+/// Passes on a position and its texture coordinates. Shared by the textured quads and the text.
 constexpr char texturedVertexSource[] = "attribute vec4 coord;\n"
                                         "varying vec2 texpos;\n"
                                         "void main() {\n"

@@ -116,13 +116,11 @@ void ShaderProgram::PrintLog(unsigned int object) const {
     (isShader ? glGetShaderiv : glGetProgramiv)(object, GL_INFO_LOG_LENGTH, &length);
     // One byte more than the driver counts, so that an empty log is an empty text.
     const size_t size = length > 0 ? static_cast<size_t>(length) : 0;
-    const std::unique_ptr<char[]> text(new (std::nothrow) char[size + 1]);
+    const std::unique_ptr<char[]> text(new (std::nothrow) char[size + 1]());
     if (!text) {
         __android_log_print(LogError, tag, "allocate memory fail\n");
         return;
     }
-    text[0] = '\0';
-    text[size] = '\0';
     if (isShader) {
         glGetShaderInfoLog(object, length, nullptr, text.get());
         __android_log_print(LogError, tag, "Could not compile shader %d:\n%s\n",

@@ -19,7 +19,8 @@ struct Corners {
     Vertex bottomRight;
 };
 
-/// Spans a rectangle. Exact: a float multiplied by 1, or with 0 added, keeps its value.
+/// Spans a rectangle. For finite coordinates the result is exact: a product with 1 and a sum with 0
+/// change at most the sign of a zero.
 /// @param diagonal from the top-left to the bottom-right corner
 inline Corners SpanCorners(Vertex topLeft, Vertex diagonal) {
     const Vertex across = {1.0f, 0.0f, 1.0f, 0.0f};

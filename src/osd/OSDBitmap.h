@@ -3,9 +3,10 @@
 #ifndef ZOGLES_OSD_OSDBITMAP_H
 #define ZOGLES_OSD_OSDBITMAP_H
 
-#include "gl/FBOManager.h"
 #include "gl/ShaderProgram.h"
 #include "surface/Records.h"
+
+#include <GLES2/gl2.h>
 
 /// Clears the window and blends client pixels onto it, by way of a texture that lives for one draw.
 class ZOGLES_API OSDBitmap {

@@ -3,9 +3,10 @@
 #ifndef ZOGLES_OSD_OSDFRAME_H
 #define ZOGLES_OSD_OSDFRAME_H
 
-#include "gl/FBOManager.h"
 #include "gl/ShaderProgram.h"
 #include "surface/Records.h"
+
+#include <GLES2/gl2.h>
 
 /// Clears the window and blends a region of a texture onto it.
 class ZOGLES_API OSDFrame {

@@ -5,7 +5,6 @@
 #include "osd/OSDFrame.h"
 #include "osd/OSDRect.h"
 #include "osd/RegionCopy.h"
-#include "surface/Conversions.h"
 #include "surface/Operations.h"
 
 int ZoGLDrawSurface::OSDRectInit(unsigned int flags) {

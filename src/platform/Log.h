@@ -11,9 +11,9 @@
 ///
 /// The environment variable ANDROID_LOG_TAGS, read at the first call, says what is shown: entries
 /// "tag:priority" set apart by blanks or commas, where the priority is the least one shown (one of
-/// V D I W E F or its number, or S for none) and the tag * stands for every tag not named. Of two
-/// entries for one tag the later holds; one whose priority is none of these is passed over. The
-/// default is "*:V". A message that is not shown is not formatted.
+/// V D I W E F or its number, or S for none) and the tag * stands for every tag not named. If a tag
+/// appears twice, the last entry applies. Entries with an unknown priority are ignored. The default
+/// is "*:V". A message that is not shown is not formatted.
 ///
 /// Messages longer than 4,000 bytes are cut.
 /// @return the number of bytes written, 0 for a message not shown, or a negative number

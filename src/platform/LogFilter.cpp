@@ -8,8 +8,8 @@ constexpr char separators[] = " \t\n,";
 
 constexpr int noPriority = 0;
 
-// A priority is a letter of either case, or its number, or a * for the one that a bare tag means;
-// from silent on, a number means verbose, as the platform has it.
+// A letter in either case, a digit, or * for the default. Digits from 8 mean verbose, as on the
+// platform.
 int PriorityOf(char letter, int bare) {
     if (letter == '*') {
         return bare;
@@ -18,6 +18,7 @@ int PriorityOf(char letter, int bare) {
         return letter - '0' < LogSilent ? letter - '0' : LogVerbose;
     }
     constexpr char letters[] = "vdiwefs"; // from verbose to silent
+    static_assert(LogVerbose + sizeof(letters) - 2 == LogSilent);
     const char* found = strchr(letters, letter | 0x20);
     return found == nullptr ? noPriority : LogVerbose + static_cast<int>(found - letters);
 }

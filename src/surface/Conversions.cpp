@@ -47,15 +47,17 @@ unsigned int ZoGLDrawSurface::ConvertFormatToGLES(int format) const {
 void ZoGLDrawSurface::ScreenCoordToVCoord(const tagZoRectInfo* in, tagRectInfo* out,
                                           unsigned int targetWidth,
                                           unsigned int targetHeight) const {
-    const Size target = {targetWidth, targetHeight};
-    *out = target.IsEmpty() ? *out : ToVertexSpace(*in, target);
+    if (const Size target = {targetWidth, targetHeight}; !target.IsEmpty()) {
+        *out = ToVertexSpace(*in, target);
+    }
 }
 
 void ZoGLDrawSurface::ScreenCoordToFboCoord(const tagZoRectInfo* in, tagRectInfo* out,
                                             unsigned int targetWidth,
                                             unsigned int targetHeight) const {
-    const Size target = {targetWidth, targetHeight};
-    *out = target.IsEmpty() ? *out : ToTextureSpace(*in, target);
+    if (const Size target = {targetWidth, targetHeight}; !target.IsEmpty()) {
+        *out = ToTextureSpace(*in, target);
+    }
 }
 
 void ZoGLDrawSurface::ConvertGLColor(const tagZoColorRGBA* in, tagColorRGBA* out) const {

@@ -49,14 +49,14 @@ public:
     void DeleteTexture();
 
     /// The texture's name, 0 for none; it stays the atlas's.
-    unsigned int GetFontTexture() const { return texture; }
+    ZOGLES_INLINE unsigned int GetFontTexture() const { return texture; }
 
     /// The records, by character code.
-    const GlyphMap& GetGlyphs() const { return glyphs; }
+    ZOGLES_INLINE const GlyphMap& GetGlyphs() const { return glyphs; }
 
     /// Texture size in pixels.
-    unsigned int GetFontTextureWidth() const { return width; }
-    unsigned int GetFontTextureHeight() const { return height; }
+    ZOGLES_INLINE unsigned int GetFontTextureWidth() const { return width; }
+    ZOGLES_INLINE unsigned int GetFontTextureHeight() const { return height; }
 
 private:
     unsigned int texture;

@@ -24,7 +24,7 @@ public:
     FontStyleAtlas(const FontStyleAtlas&) = delete;
     FontStyleAtlas& operator=(const FontStyleAtlas&) = delete;
 
-    /// Opens a font file in the place of the open one. The texture of the last request stays.
+    /// Opens a font file instead of the open one. The texture of the last request stays.
     /// @return ZO_SUCCESS, ZO_FREETYPE_FAILED or ZO_FONT_FACE_FAILED, with no face open then
     int LoadFontByPath(const char* path);
 
@@ -56,11 +56,11 @@ public:
     void DeleteTexture();
 
     /// The records, by UTF-16 unit.
-    const GlyphMap& GetGlyphs() const { return glyphs; }
+    ZOGLES_INLINE const GlyphMap& GetGlyphs() const { return glyphs; }
 
     /// Texture size in pixels.
-    unsigned int GetFontTextureWidth() const { return width; }
-    unsigned int GetFontTextureHeight() const { return height; }
+    ZOGLES_INLINE unsigned int GetFontTextureWidth() const { return width; }
+    ZOGLES_INLINE unsigned int GetFontTextureHeight() const { return height; }
 
 private:
     FT_Face face;

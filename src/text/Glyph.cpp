@@ -3,13 +3,16 @@
 #include <algorithm>
 #include <stdexcept>
 
-// Where the entry of a code is, 0 for none so far.
+// Distinct characters of a text that need no second allocation.
+constexpr size_t usualText = 64;
+
+// The index slot of a code; 0 means that it has no entry. Adds the page if it is missing.
 std::uint32_t* GlyphMap::Table::MakeIndex(unsigned long code) {
     const unsigned long number = code / pageSize;
     auto page = pages.find(number);
     if (page == pages.end()) {
         const auto start = static_cast<std::uint32_t>(indices.size());
-        indices.resize(start + pageSize); // first, since memory may be refused
+        indices.resize(start + pageSize); // before the page is registered: either step can throw
         page = pages.emplace(number, start).first;
         if (number < unitPages) {
             startOfUnits[number] = start;
@@ -19,10 +22,9 @@ std::uint32_t* GlyphMap::Table::MakeIndex(unsigned long code) {
 }
 
 tagGlyphInfo& GlyphMap::operator[](unsigned long code) {
-    if (!table) {
-        table = std::make_shared<Table>();
-    } else if (table.use_count() > 1) {
-        table = std::make_shared<Table>(*table);
+    if (!table || table.use_count() > 1) { // copies keep what they read
+        table = table ? std::make_shared<Table>(*table) : std::make_shared<Table>();
+        table->entries.reserve(usualText);
     }
     std::uint32_t* index = table->MakeIndex(code);
     if (*index == 0) {

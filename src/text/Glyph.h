@@ -72,7 +72,7 @@ private:
         std::uint32_t* MakeIndex(unsigned long code);
 
         /// In order of insertion. The first is all zero and stands for every absent code.
-        std::vector<value_type> entries{1};
+        std::vector<value_type> entries = std::vector<value_type>(1);
         /// Page by page, the entry of each code. The first page is all zero and stands for every
         /// absent page.
         std::vector<std::uint32_t> indices = std::vector<std::uint32_t>(pageSize);

@@ -17,10 +17,6 @@ float WholePixels(FT_Pos advance) {
 
 } // namespace
 
-bool TextureLimit::Fits(unsigned int side) {
-    return side <= trusted || side <= Largest();
-}
-
 void TextureLimit::Cut(unsigned int& width, unsigned int& height) {
     if (!Fits(std::max(width, height))) {
         width = std::min(width, Largest());

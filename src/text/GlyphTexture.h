@@ -9,6 +9,7 @@
 #include "text/GlyphPacker.h"
 
 #include <GLES2/gl2.h>
+#include <algorithm>
 #include <new>
 
 /// What tells one kind of atlas from the other.
@@ -34,7 +35,7 @@ public:
     explicit TextureLimit(const AtlasKind& kind) : trusted(kind.trustedSide) {}
 
     /// @param side the larger one of a texture or a glyph, in pixels
-    bool Fits(unsigned int side);
+    bool Fits(unsigned int side) { return side <= trusted || side <= Largest(); }
 
     /// Cuts a texture size down to what the driver can make.
     void Cut(unsigned int& width, unsigned int& height);

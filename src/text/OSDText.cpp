@@ -35,7 +35,7 @@ void LogAbsent(char16_t unit) {
 
 // Truncates toward zero; what does not fit 32 bits wraps, as unsigned sums do.
 unsigned int TruncateToUnsigned(float value) {
-    return static_cast<unsigned int>(static_cast<std::uint64_t>(value));
+    return static_cast<unsigned int>(static_cast<std::int64_t>(value));
 }
 
 // Draws the units that the font can show, and logs the others.
@@ -80,11 +80,13 @@ bool OSDText::FindCharFromMap(char16_t unit) const {
 void OSDText::GetTextSize(const tagTextInfo* info, unsigned int* width,
                           unsigned int* height) const {
     const GlyphMap::Units standard = fontAtlas->GetGlyphs().ReadUnits();
+    const GlyphMap::Units units = standard; // kept in registers, which a call's result is not
+    const char16_t* const end = info->text + info->length;
     unsigned int total = 0;
-    for (unsigned int i = 0; i < info->length; ++i) {
-        const tagGlyphInfo& glyph = standard[info->text[i]];
+    for (const char16_t* unit = info->text; unit != end; ++unit) {
+        const tagGlyphInfo& glyph = units[*unit];
         if (!IsShown(glyph)) {
-            LogAbsent(info->text[i]);
+            LogAbsent(*unit);
             total += absentUnitWidth;
             continue;
         }
@@ -180,7 +182,7 @@ void OSDText::GLDrawText(const char16_t* text, unsigned int length, float x, flo
     };
     const auto drawStyled = [this](char16_t unit, const tagGlyphInfo&) -> const tagGlyphInfo& {
         const tagGlyphInfo& glyph = glyphs.ReadUnits()[unit];
-        return IsShown(glyph) ? glyph : glyphs[unit]; // inserts what the styled atlas lacks
+        return IsShown(glyph) ? glyph : glyphs[unit]; // inserts a missing unit
     };
     Vertex* const unused = glyphs.SharesTableWith(standardGlyphs)
                                ? DrawUnits(text, length, standard, pen, drawStandard)

@@ -12,8 +12,7 @@
 /// Draws texts, each with one upload and one draw call, and measures them.
 ///
 /// Text of the standard size and style comes from the standard atlas, all other from the styled
-/// one. Whether a unit can be shown is always the standard atlas's word, and measuring uses nothing
-/// but that atlas.
+/// one. The standard atlas decides whether a unit can be shown, and measuring uses only that atlas.
 class ZOGLES_API OSDText {
 public:
     /// Shares the atlases with the surface. Makes no GL call.
@@ -30,7 +29,7 @@ public:
     /// Whether the standard atlas serves a request: size 40, neither bold nor italic.
     bool IsDrawStandardFont(const tagTextInfo* info) const;
 
-    /// Whether the font can show a unit, that is, whether it leaves a mark. Changes nothing.
+    /// Whether the font has a visible shape for a unit. Changes nothing.
     bool FindCharFromMap(char16_t unit) const;
 
     /// Measures a text in pixels at the standard atlas's size. The height is always 50.

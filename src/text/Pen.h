@@ -19,8 +19,8 @@ inline bool IsShown(const tagGlyphInfo& glyph) {
     return glyph.bitmapWidth * glyph.bitmapHeight > 0.0f;
 }
 
-/// Sets glyphs side by side. Each step computes x, y, s and t at once; those that it leaves alone
-/// are multiplied or divided by 1, or have 0 added, which keeps them exact.
+/// Sets glyphs side by side. Each step computes x, y, s and t at once. Those that a step does not
+/// change are multiplied or divided by 1, or 0 is added.
 class Pen {
 public:
     static constexpr size_t verticesPerGlyph = 6;
@@ -40,8 +40,8 @@ public:
     /// Where the vertices of the next glyph go.
     Vertex* Vertices() const { return vertices; }
 
-    /// Draws the units before the first that the font cannot show. Calls nothing, so that the loop
-    /// runs in registers.
+    /// Draws the units before the first that the font cannot show. With the standard atlas the loop
+    /// makes no call and runs in registers.
     /// @param standard decides which units the font can show
     /// @param find returns the glyph to draw for a unit
     /// @return where it stopped
