@@ -34,3 +34,23 @@ TEST_F(OSDRectGLTest, FillsItsPixelsAndNoOthers) {
     }
     EXPECT_EQ(harness::TakeLog(), Log());
 }
+
+TEST_F(OSDRectGLTest, ReadsNoVerticesWithoutABuffer) {
+    Bind();
+    harness::FailCall("glGenBuffers");
+    Draw(ZO_WINDOW_HANDLE, {0, 0, 9, 9}, {1, 1, 1, 1});
+    EXPECT_EQ(harness::CountOf("glDrawArrays"), 1);
+    EXPECT_EQ(harness::CountOf("glEnableVertexAttribArray"), 0);
+    ExpectGlError(GL_INVALID_OPERATION);
+}
+
+TEST_F(OSDRectGLTest, ZeroesNoRecordAfterOneThatFails) {
+    Bind();
+    ASSERT_EQ(surface->Init(ZO_COMPONENT_RECT), ZO_SUCCESS);
+    harness::FailCall("memset_s", 2);
+    harness::FailCall("memset_s", 3);
+    const tagZoRectInfo rect = {0, 0, 9, 9};
+    const tagZoColorRGBA color = {1, 1, 1, 1};
+    EXPECT_EQ(surface->ZoDrawRect(ZO_WINDOW_HANDLE, &rect, &color), ZO_FAILURE);
+    EXPECT_EQ(harness::TakeLog().size(), 1U);
+}

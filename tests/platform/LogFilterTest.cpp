@@ -43,6 +43,7 @@ TEST(LogFilterTest, ShowsFromTheLeastPriorityOn) {
         {"*:S\tA:V\nB:E", "B", 6},
         {"A:S A:E", "A", 6},
         {"*:S A", "A", 2},
+        {"*A:S", "A", 2},
         {"*:S A:*", "A", 2},
         {"*:E A:x", "A", 6},
         {"A:6", "A", 6},

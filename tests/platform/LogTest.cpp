@@ -4,7 +4,9 @@
 #include <fcntl.h>
 #include <functional>
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <string>
+#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -83,7 +85,29 @@ TEST(LogTest, NeitherFormatsNorWritesWhatTheFilterReadOnceDrops) {
         setenv("ANDROID_LOG_TAGS", "*:S", 1);
         isRight = isRight && __android_log_print(5, "Tag", "%d", 7) == 9;
         close(STDERR_FILENO);
-        return isRight && __android_log_print(5, "Tag", "lost") < 0;
+        return isRight && __android_log_print(5, "Tag", "lost\nlost") == -1;
     });
     EXPECT_EQ(writes, Writes{"W/Tag: 7\n"});
+}
+
+TEST(LogTest, RepeatsAWriteThatASignalInterrupts) {
+    Log("", [] {
+        static int ends[2];
+        static char page[4096];
+        bool isRight = pipe2(ends, O_NONBLOCK) == 0;
+        while (write(ends[1], page, sizeof(page)) > 0) {
+        }
+        fcntl(ends[1], F_SETFL, 0); // the next write waits until the handler empties the pipe
+        dup2(ends[1], STDERR_FILENO);
+        struct sigaction action = {};
+        action.sa_handler = [](int) {
+            while (read(ends[0], page, sizeof(page)) > 0) {
+            }
+        };
+        sigaction(SIGALRM, &action, nullptr);
+        const itimerval delay = {{0, 0}, {0, 20000}};
+        setitimer(ITIMER_REAL, &delay, nullptr);
+        isRight = isRight && __android_log_print(6, "Tag", "text") == 12;
+        return isRight && read(ends[0], page, sizeof(page)) == 12;
+    });
 }

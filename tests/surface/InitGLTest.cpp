@@ -39,6 +39,9 @@ TEST_F(InitGLTest, RenderersAskForEachLocationAndReplaceTheirObjects) {
                   surface->osdFrame->Init() + surface->osdRect->Init(),
               ZO_SUCCESS);
     EXPECT_EQ(harness::DescribeLive(), live) << "a second Init replaces program and buffer";
+    harness::FailCall("glCreateProgram");
+    EXPECT_EQ(surface->osdRect->Init(), ZO_PROGRAM_FAILED);
+    EXPECT_TRUE(surface->osdRect->program == 0 && surface->osdRect->vertexBuffer == 0);
 }
 
 TEST_F(InitGLTest, CreatesWhatTheFlagsName) {

@@ -34,8 +34,8 @@ void UseFakeFont(std::vector<FakeGlyph> glyphs) {
         face->glyph->bitmap_left = glyph->left;
         face->glyph->bitmap_top = glyph->top;
         const int pitch = glyph->pitch == 0 ? static_cast<int>(glyph->width) : glyph->pitch;
-        face->glyph->bitmap = {glyph->rows, glyph->width,       pitch, glyph->coverage.data(),
-                               256,         FT_PIXEL_MODE_GRAY, 0,     nullptr};
+        face->glyph->bitmap = {glyph->rows,  glyph->width,       pitch, glyph->coverage.data(),
+                               glyph->grays, FT_PIXEL_MODE_GRAY, 0,     nullptr};
         return 0;
     };
 }

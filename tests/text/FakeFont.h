@@ -16,7 +16,8 @@ struct FakeGlyph {
     int pitch = 0;                            ///< 0 means the width
     std::vector<unsigned char> coverage = {}; ///< empty means 255 all over
     bool isFailing = false;
-    int rise = 0; ///< vertical advance, pixels
+    int rise = 0;               ///< vertical advance, pixels
+    unsigned short grays = 256; ///< how many levels the coverage has
 };
 
 /// From now on every face maps these characters, in this order, and no others.

@@ -41,6 +41,14 @@ TEST_F(FontLoadingGLTest, SizeIsZeroAfterTwoFailedLoads) {
     EXPECT_EQ(surface->fontAtlas->GetFontTextureHeight(), 0U);
 }
 
+TEST_F(FontLoadingGLTest, LoadFontReplacesTheAtlas) {
+    UseFakeFont({{65, 4, 3}});
+    Load();
+    const std::string live = harness::DescribeLive();
+    EXPECT_EQ(surface->fontAtlas->LoadFont(surface->fontStyleAtlas->face, 20), ZO_SUCCESS);
+    EXPECT_EQ(harness::DescribeLive(), live);
+}
+
 TEST_F(FontLoadingGLTest, FirstUseDrawsInTheDefaultFont) {
     EXPECT_EQ(surface->Init(0xFE), ZO_SUCCESS);
     EXPECT_FALSE(surface->fontAtlas || surface->fontStyleAtlas || surface->osdText);

@@ -64,6 +64,8 @@ TEST_F(GlyphAtlasGLTest, PlacesAndRecordsWhatFits) {
         {{{65, 9, 256}, {66, 8, 257}}, 256, "10 x 256 (2 kb)", " 65:0,0", {oneOut}},
         {{{65, 64, 9}, {66, 65, 8}}, 64, "64 x 9 (0 kb)", " 65:0,0", {oneOut}},
         {{{65, 9, 64}, {66, 8, 65}}, 64, "10 x 64 (0 kb)", " 65:0,0", {oneOut}},
+        // Without area, but with an advance.
+        {{{65, 3, 4}, {66, 9, 0}, {67, 0, 9}}, {}, "15 x 9 (0 kb)", " 65:0,0 66:4,0 67:14,0", {}},
         // Unicode ends at 0x10FFFF, whatever the font maps above it.
         {{{0x10FFFF, 4, 3}, {0x110000, 4, 3}}, {}, "5 x 3 (0 kb)", " 1114111:0,0", {}},
         {tall, untold, "1001 x 1800 (1759 kb)", " 65:0,0 66:0,600 67:0,1200", {}},
@@ -112,6 +114,9 @@ TEST_F(GlyphAtlasGLTest, RepacksRowsWhateverTheirPitch) {
         ExpectNear(Uploaded({}, 3, 3), expected);
         ExpectNear(Uploaded({41}, 3, 3), expected);
     }
+    UseFakeFont({{65, 3, 1, 0, 1, 3, 0, {1, 3, 9}, false, 0, 4}}); // 9 is above the range
+    Load();
+    ExpectNear(Uploaded({}, 3, 1), {85, 255, 255});
 }
 
 // Fonts of 1, 2, 4 and 8 bits a pixel, which FreeType delivers as stored. Their B has a size, but no

@@ -27,10 +27,18 @@ TEST(GlyphMapTest, WalksByAscendingCodeWhateverTheOrderOfInsertion) {
         map[codes[i]] = {1, 2, 3, 4, 5, 6, 7, static_cast<float>(i + 1)};
     }
     EXPECT_EQ(CodesOf(map), codes);
+    const GlyphMap::Units units = map.ReadUnits();
     for (size_t i = 0; i < codes.size(); ++i) {
+        if (codes[i] <= 0xFFFF) {
+            EXPECT_EQ(units[static_cast<char16_t>(codes[i])].texY, static_cast<float>(i + 1));
+        }
         EXPECT_EQ(map.at(codes[i]).texY, static_cast<float>(i + 1));
         EXPECT_EQ(map.find(codes[i])->first, codes[i]);
+        EXPECT_EQ(map.count(codes[i]), 1U);
     }
+    GlyphMap::const_iterator glyph = map.begin();
+    EXPECT_EQ((glyph++)->first, codes[0]);
+    EXPECT_EQ(glyph->first, codes[1]);
     for (const unsigned long absent : {1UL, 66UL, 0xFFFEUL, 0x10042UL, 0x20000UL, 0xFFFFFFFEUL}) {
         EXPECT_TRUE(map.count(absent) == 0 && map.find(absent) == map.end()) << absent;
         EXPECT_THROW(map.at(absent), std::out_of_range) << absent;

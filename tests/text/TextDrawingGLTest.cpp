@@ -192,6 +192,11 @@ TEST_F(TextDrawingGLTest, MovesThePenByBothAdvances) {
     const tagGlyphInfo& negative = surface->fontAtlas->GetGlyphs().at(66);
     EXPECT_EQ(negative.advanceX, 67108864.0f);
     EXPECT_EQ(negative.advanceY, 67108864.0f);
+    FT_GlyphSlotRec fraction = {};
+    fraction.advance = {127, 63};
+    surface->fontAtlas->FontCharInfoToMap(&fraction, 0, 0, 67);
+    EXPECT_EQ(surface->fontAtlas->GetGlyphs().at(67).advanceX, 1.0f);
+    EXPECT_EQ(surface->fontAtlas->GetGlyphs().at(67).advanceY, 0.0f);
 }
 
 TEST_F(TextDrawingGLTest, SkipsWhatTheFontCannotShow) {
