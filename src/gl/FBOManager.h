@@ -17,9 +17,10 @@ struct tagFrameBuffObject {
     int height;          ///< pixels
 };
 
-/// The first entry with that handle, or null; out of line, as most look-ups need none. Pass ZO_NO_HANDLE to find the first free entry.
-template <typename Entry, size_t count>
-__attribute__((noinline)) Entry* FirstEntry(Entry (&entries)[count], unsigned int handle) {
+/// The first entry with that handle, or null. Pass ZO_NO_HANDLE to find the first free entry. Out of
+/// line because FindEntry() rarely needs it.
+template <typename Entry, size_t Count>
+__attribute__((noinline)) Entry* FirstEntry(Entry (&entries)[Count], unsigned int handle) {
     for (Entry& entry : entries) {
         if (entry.handle == handle) {
             return &entry;
@@ -29,13 +30,13 @@ __attribute__((noinline)) Entry* FirstEntry(Entry (&entries)[count], unsigned in
 }
 
 /// The entry with that handle, or null. A client can pass ZO_NO_HANDLE: it never matches.
-template <typename Entry, size_t count>
-Entry* FindEntry(Entry (&entries)[count], unsigned int handle) {
+template <typename Entry, size_t Count>
+Entry* FindEntry(Entry (&entries)[Count], unsigned int handle) {
     if (handle == ZO_NO_HANDLE) {
         return nullptr;
     }
     // Most buffers are in the slot that their number names.
-    Entry* likely = &entries[handle % count];
+    Entry* likely = &entries[handle % Count];
     return likely->handle == handle ? likely : FirstEntry(entries, handle);
 }
 
