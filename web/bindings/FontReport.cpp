@@ -33,10 +33,10 @@ void CountCharacters(FT_Face face, const GlyphMap& glyphs, FontReport& report) {
     for (FT_ULong code = FT_Get_First_Char(face, &index); index != 0;
          code = FT_Get_Next_Char(face, code, &index)) {
         ++report.mapped;
-        const tagGlyphInfo* glyph = glyphs.Lookup(code);
-        if (glyph == nullptr) {
+        const auto glyph = glyphs.find(code);
+        if (glyph == glyphs.end()) {
             leftOut.push_back(static_cast<unsigned int>(code));
-        } else if (glyph->bitmapWidth == 0 || glyph->bitmapHeight == 0) {
+        } else if (glyph->second.bitmapWidth == 0 || glyph->second.bitmapHeight == 0) {
             ++report.blank;
         }
     }
