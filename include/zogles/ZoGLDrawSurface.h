@@ -365,7 +365,7 @@ private:
     // Buffer handles and the table that outlives the context.
     int CreatePool();
     int EnsurePool() { return fboManager ? ZO_SUCCESS : CreatePool(); }
-    int FindTarget(unsigned int handle, tagFrameBuffObject* target);
+    inline int FindTarget(unsigned int handle, tagFrameBuffObject* target);
     int ResetFboSource();
     void FBOManagerInit(unsigned int flags);
     void SaveFboInfo(unsigned int handle, int width, int height, int format);
