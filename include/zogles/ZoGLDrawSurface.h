@@ -1,15 +1,15 @@
 /// @file
-/// The one public header of libzogles: the records that clients hand over, the result codes, and
-/// `ZoGLDrawSurface`, which draws an on-screen display with OpenGL ES 2.0 on a native window.
+/// The public header of libzogles: records, result codes and `ZoGLDrawSurface`, which draws an
+/// on-screen display with OpenGL ES 2.0 on a native window.
 ///
-/// Pixels are counted from the top-left corner of a target, x to the right and y downwards. The
-/// pointers in the records belong to the client and are read only while a call lasts.
+/// Coordinates are pixels from the target's top-left corner, x to the right and y down. The client
+/// owns the memory that pointers in a record refer to; the library reads it only during the call.
 #ifndef ZOGLES_ZOGLDRAWSURFACE_H
 #define ZOGLES_ZOGLDRAWSURFACE_H
 
 #include <memory>
 
-/// Major version: programs built for another one do not run with this library.
+/// Major version: changes when existing programs have to be rebuilt or adapted.
 #define ZOGLES_VERSION_MAJOR 1
 /// Minor version: adds features, stays compatible.
 #define ZOGLES_VERSION_MINOR 0
@@ -19,15 +19,15 @@
 #if defined(ZOGLES_STATIC)
 #define ZOGLES_API
 #else
-/// Marks what the shared library exports; nothing where ZOGLES_STATIC is defined.
+/// Exports a name from the shared library. Empty if ZOGLES_STATIC is defined.
 #define ZOGLES_API __attribute__((visibility("default")))
 #endif
 
-/// Marks inline functions that the shared library exports all the same.
+/// Exports an inline function from the shared library.
 #define ZOGLES_INLINE ZOGLES_API __attribute__((used))
 
-/// The platform's native window. Where the platform has no such type of its own, the pointer is
-/// the EGL native window value itself: for X11
+/// The platform's native window. On platforms without this type, the pointer is the EGL native
+/// window value itself. For an X11 window:
 /// `reinterpret_cast<ANativeWindow*>(static_cast<uintptr_t>(xid))`.
 struct ANativeWindow;
 
@@ -46,15 +46,15 @@ struct tagFrameBuffObject;
 struct tagRectInfo;
 struct tagTextInfo;
 
-/// What the operations return. Every failure is also written to the platform log.
+/// The result codes. Every failure is also written to the platform log.
 enum ZoResult : int {
-    ZO_SUCCESS = 0,             ///< done
+    ZO_SUCCESS = 0,             ///< success
     ZO_NO_DISPLAY = 1,          ///< EGL has no display
     ZO_DISPLAY_INIT_FAILED = 2, ///< the EGL display could not be initialised
     ZO_NO_CONFIG = 3,           ///< EGL could not choose a configuration
     ZO_NO_CONTEXT = 4,          ///< the OpenGL ES 2.0 context could not be created
     ZO_NO_WINDOW_SURFACE = 5,   ///< the EGL window surface could not be created
-    ZO_NO_EGL_MANAGER = 6,      ///< a frame was presented while no window is bound
+    ZO_NO_EGL_MANAGER = 6,      ///< `ZoRefreshOnSrceen` was called while no window is bound
     ZO_RESERVED_10 = 10,        ///< reserved, never returned
     ZO_RESERVED_11 = 11,        ///< reserved, never returned
     ZO_RESERVED_12 = 12,        ///< reserved, never returned
@@ -64,42 +64,43 @@ enum ZoResult : int {
     ZO_PROGRAM_FAILED = 20,     ///< a shader program could not be built
     ZO_FREETYPE_FAILED = 30,    ///< FreeType could not be initialised
     ZO_FONT_FACE_FAILED = 31,   ///< the font file could not be opened
-    ZO_FONT_ATLAS_EMPTY = 32,   ///< no visible glyph in the font or text, or no font is open
-    ZO_FAILURE = 100,           ///< general failure; the log says which
+    ZO_FONT_ATLAS_EMPTY = 32,   ///< the font or text has no visible glyph, or no font is open
+    ZO_FAILURE = 100,           ///< any other failure; the log has the details
     ZO_INVALID_PARAM = 101,  ///< a null pointer, an unknown handle, or a target of size 0 for text
-    ZO_NO_FBO_MANAGER = 102, ///< a buffer was destroyed while there is no pool of buffers
+    ZO_NO_FBO_MANAGER = 102, ///< a buffer was destroyed while the surface has no buffer pool
 };
 
-/// The components that `ZoGLDrawSurface::Init` creates, to be or-ed together.
+/// Components that `ZoGLDrawSurface::Init` creates. Combine them with bitwise or.
 enum ZoComponent : unsigned int {
-    ZO_COMPONENT_TEXT = 0x01,   ///< text, with the default font unless one was loaded
-    ZO_COMPONENT_BLIT = 0x02,   ///< copies between buffers
+    ZO_COMPONENT_TEXT = 0x01,   ///< text; loads the default font unless a font is loaded
+    ZO_COMPONENT_BLIT = 0x02,   ///< blits between buffers
     ZO_COMPONENT_BITMAP = 0x04, ///< client bitmaps on the window
     ZO_COMPONENT_RECT = 0x08,   ///< filled rectangles
     ZO_COMPONENT_FRAME = 0x10,  ///< presentation of a buffer on the window
     ZO_COMPONENT_FBO = 0x20,    ///< the pool of off-screen buffers
 };
 
-/// The handle that names the window's own framebuffer; it is never created nor destroyed.
+/// The handle of the window itself. It always exists and cannot be destroyed.
 constexpr unsigned int ZO_WINDOW_HANDLE = 0x10000U;
 
-/// Marks an empty entry where handles are kept; it names no buffer.
+/// Not a handle: marks an unused entry. No buffer ever has this value.
 constexpr unsigned int ZO_NO_HANDLE = 0xFFFFFFFFU;
 
-/// The one colour format: red, green, blue and alpha in this order, 8 bits each.
+/// The only colour format: red, green, blue, alpha, 8 bits each, in this byte order.
 constexpr int ZO_FORMAT_RGBA8888 = 9;
 
-/// A rectangle in pixels of its target, counted from the target's top-left corner. It may reach
-/// past the target's right and bottom sides: what lies outside is cut.
+/// A rectangle in pixels, from the target's top-left corner. It may extend past the target's right
+/// and bottom edges; the part outside is clipped.
 struct tagZoRectInfo {
-    unsigned int x;      ///< left edge, pixels from the target's left side
-    unsigned int y;      ///< top edge, pixels from the target's top side
+    unsigned int x;      ///< left edge, in pixels from the target's left edge
+    unsigned int y;      ///< top edge, in pixels from the target's top edge
     unsigned int width;  ///< pixels
     unsigned int height; ///< pixels
 };
 
-/// A colour, not premultiplied. A channel of 2 to 255 means channel/255; 0 and 1 are the intensity
-/// itself, so that 1 and 255 both mean full intensity. So 2 is the darkest that is not black.
+/// A colour with straight (not premultiplied) alpha. Channel values from 2 to 255 mean value/255.
+/// The values 0 and 1 are the intensity itself: 1 is full intensity, like 255, and 2 is the darkest
+/// value above 0.
 struct tagZoColorRGBA {
     unsigned char r; ///< red
     unsigned char g; ///< green
@@ -107,153 +108,156 @@ struct tagZoColorRGBA {
     unsigned char a; ///< alpha: 0 transparent, 1 and 255 opaque
 };
 
-/// A text to draw or to measure. Zero it before filling it in, so that what is not set is plain:
-/// `tagZoTextInfo text = {};`
+/// A text to draw or to measure. Initialise it with zeros: `tagZoTextInfo text = {};`
 ///
-/// Plain text of size 40, the standard size, is as high as `ZoLoadFont` was told, and ready to draw.
-/// Text of any other size, bold or italic, is rendered at every draw, and ends at its first zero
-/// unit. A size of 0 is rendered at 40.
+/// Standard text (`fontSize` 40, neither bold nor italic) comes from glyphs that `ZoLoadFont` has
+/// rendered, at the size that was passed to `ZoLoadFont`. All other text is styled text: its glyphs
+/// are rendered again at every draw, and it ends at its first zero unit. `fontSize` 0 gives styled
+/// text of 40 pixels.
 struct tagZoTextInfo {
-    const char16_t* text;         ///< UTF-16 code units, owned by the client; null if empty
-    unsigned int length;          ///< how many units to draw or measure; no more are ever read
-    tagZoColorRGBA color;         ///< colour of the text
+    const char16_t* text; ///< UTF-16 code units, owned by the client; may be null if `length` is 0
+    unsigned int length;  ///< number of units to draw or measure; no unit after them is read
+    tagZoColorRGBA color; ///< text colour
     tagZoColorRGBA reservedColor; ///< not used
     unsigned char reservedByte;   ///< not used
-    unsigned int fontSize;        ///< glyph height in pixels; see above for 40 and 0
+    unsigned int fontSize;        ///< glyph height in pixels; 40 and 0 are special, see above
     unsigned char bold;           ///< nonzero: heavier strokes
     unsigned char reservedStyle;  ///< not used
     unsigned char italic;         ///< nonzero: slanted to the right
 };
 
-/// Client pixels to show on the window, not premultiplied. They are read while the call lasts.
+/// An image in client memory to show on the window, with straight (not premultiplied) alpha.
 struct tagZoBitmapInfo {
-    const unsigned char* data; ///< width * height * 4 bytes, rows from the top; owned by the client
-    int format;                ///< ZO_FORMAT_RGBA8888; any other value is logged and taken as that
+    const unsigned char* data; ///< width * height * 4 bytes, top row first; owned by the client
+    int format;                ///< ZO_FORMAT_RGBA8888; any other value is logged and ignored
     unsigned int reserved0;    ///< not read
     unsigned int reserved1;    ///< not read
     unsigned int width;        ///< bitmap width in pixels
     unsigned int height;       ///< bitmap height in pixels
-    tagZoRectInfo rect; ///< where to show it, in window pixels; the bitmap is stretched to it
+    tagZoRectInfo rect;        ///< destination in window pixels; the bitmap is scaled to it
 };
 
-/// A copy from one buffer into another, or within one buffer.
+/// A copy from one buffer to another, or within one buffer.
 struct tagZoBlitInfo {
-    unsigned int srcHandle; ///< buffer to read from; the window holds no image
+    unsigned int srcHandle; ///< buffer to read from; the window cannot be read
     unsigned int dstHandle; ///< buffer to write to, or ZO_WINDOW_HANDLE
     tagZoRectInfo srcRect;  ///< region to read, in pixels of the source buffer
-    tagZoRectInfo dstRect;  ///< region to write, in pixels of the destination buffer
+    tagZoRectInfo dstRect;  ///< region to write, in pixels of the destination
 };
 
-/// What the surface remembers of one off-screen buffer, so as to create it again after the window
-/// was lost. Kept by the surface; no operation takes or returns one.
+/// The record from which the surface restores an off-screen buffer after the window was lost.
+/// Internal: no operation takes or returns it.
 struct TagFboInfo {
-    unsigned int handle; ///< the buffer's handle; ZO_NO_HANDLE marks an empty entry
+    unsigned int handle; ///< the buffer's handle; ZO_NO_HANDLE marks an unused entry
     int width;           ///< pixels
     int height;          ///< pixels
     int format;          ///< GL pixel format of its texture
 };
 
-/// An on-screen display on one native window.
+/// Draws an on-screen display on one native window.
 ///
-/// Bind it with `ZoCreateGLWindowSurface`, create buffers with `ZoCreateGLFBO`, draw, and show each
-/// frame with `ZoRefreshOnSrceen`. When the window goes away, call `ZoDestoryGLWindowSurface`; after
-/// the next `ZoCreateGLWindowSurface` every buffer is back under its old handle, cleared.
+/// Bind it to a window with `ZoCreateGLWindowSurface`, create buffers with `ZoCreateGLFBO`, draw,
+/// and show each frame with `ZoRefreshOnSrceen`. When the window goes away, call
+/// `ZoDestoryGLWindowSurface`. The next `ZoCreateGLWindowSurface` restores every buffer under its
+/// old handle, cleared.
 ///
-/// Thread: every call comes from the thread that bound the window, whose current EGL context the
-/// surface's is from then on. One surface is never used from two threads at once.
+/// Threads: binding makes the surface's EGL context current on the calling thread. Make every other
+/// call on that thread. Never use a surface from two threads at once.
 ///
-/// Process: all surfaces share EGL's default display, and releasing one terminates that display for
-/// the whole process. Two surfaces bound at the same time in one process disturb each other.
+/// Processes: all surfaces share EGL's default display, and releasing one surface terminates the
+/// display for the whole process. Keep at most one surface bound at a time.
 ///
-/// No operation throws. Where memory is refused, the operation logs a line and returns
-/// ZO_FAILURE, or ZO_PROGRAM_FAILED if it was to build a program.
-/// An operation that fails draws nothing. Exhausted driver memory is not detected: a bitmap or buffer
-/// without memory shows as opaque black, a glyph as a solid rectangle.
+/// Errors: no operation throws, and an operation that fails draws nothing. If memory is exhausted,
+/// the operation logs it and returns ZO_FAILURE, or ZO_PROGRAM_FAILED while it builds a program.
+/// Exhausted driver memory is not detected: a bitmap or buffer without memory shows as opaque
+/// black, a glyph as a solid rectangle.
 ///
-/// A frame, with the result codes left out:
+/// One frame, without checks of the result codes:
 /// @code
 /// const tagZoRectInfo all = {0, 0, surface.ZoGetWindowWidth(), surface.ZoGetWindowHeight()};
 /// const tagZoColorRGBA clear = {0, 0, 0, 0};
-/// surface.ZoDrawRect(buffer, &all, &clear);   // start from an empty buffer
-/// surface.ZoDrawText(buffer, &text, &pen);    // whatever belongs to the frame
-/// surface.ZoDisplayFBO(buffer, &all, &all);   // put it on the window
-/// surface.ZoRefreshOnSrceen();                // and show the window
+/// surface.ZoDrawRect(buffer, &all, &clear);   // clear the buffer
+/// surface.ZoDrawText(buffer, &text, &pen);    // compose the frame
+/// surface.ZoDisplayFBO(buffer, &all, &all);   // copy it to the window
+/// surface.ZoRefreshOnSrceen();                // show the window
 /// @endcode
 class ZOGLES_API ZoGLDrawSurface {
 public:
-    /// Makes an unbound surface of 1920 by 1080 pixels. Makes no EGL call.
+    /// Creates an unbound surface of 1920 by 1080 pixels. Makes no EGL call.
     ZoGLDrawSurface();
 
-    /// Releases EGL and everything the surface owns. Makes no EGL call if it was never bound.
+    /// Releases EGL and everything that the surface owns. Makes no EGL call if the surface was
+    /// never bound.
     ~ZoGLDrawSurface();
 
-    /// A surface is not copied: it owns its context.
+    /// Surfaces cannot be copied: each owns its EGL context.
     ZoGLDrawSurface(const ZoGLDrawSurface&) = delete;
-    /// A surface is not assigned either.
+    /// Surfaces cannot be assigned.
     ZoGLDrawSurface& operator=(const ZoGLDrawSurface&) = delete;
 
-    /// Binds the surface to a window, makes its context current on the calling thread and takes the
-    /// window's size. Called again while bound, it moves to the new window and keeps every buffer,
-    /// font and component; the size that the pool holds for the window handle stays the old one.
-    /// After a loss of the window, it creates the recorded buffers again, unless a drawing
-    /// operation on the unbound surface has made a pool in the meantime.
-    /// @param window stays the client's, who keeps it alive until it is let go of
-    /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null window, with nothing changed; a code from
-    ///     ZO_NO_DISPLAY to ZO_NO_WINDOW_SURFACE, with the surface unbound afterwards; or
-    ///     ZO_FAILURE when the context cannot be made current: call `ZoDestoryGLWindowSurface` then
+    /// Binds the surface to a window, makes its context current on the calling thread and queries
+    /// the window's size.
+    ///
+    /// If the surface is bound already, it moves to the new window and keeps every buffer, font and
+    /// component. What you draw under ZO_WINDOW_HANDLE then keeps the old window's scale; unbind
+    /// first if the sizes differ. If the surface was unbound, its buffers are restored, unless a
+    /// drawing operation was called on the unbound surface in the meantime.
+    /// @param window owned by the client; must stay alive until it is unbound
+    /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null window, which changes nothing; a code from
+    ///     ZO_NO_DISPLAY to ZO_NO_WINDOW_SURFACE, which leaves the surface unbound; or ZO_FAILURE
+    ///     if the context cannot be made current: call `ZoDestoryGLWindowSurface` in this case
     int ZoCreateGLWindowSurface(ANativeWindow* window);
 
-    /// Lets go of the window: releases EGL and drops every component, font and buffer. The buffers'
-    /// handles and sizes are kept for the next binding. On an unbound surface it changes nothing
-    /// but drops what drawing operations made in the meantime.
+    /// Unbinds the surface: releases EGL and destroys every component, font and buffer. Keeps the
+    /// buffers' handles and sizes for the next binding. On an unbound surface, it only drops what
+    /// failed drawing operations have created in the meantime.
     void ZoDestoryGLWindowSurface();
 
-    /// Creates the components whose `ZoComponent` bits are set and which do not exist yet, so that
-    /// no later operation has to. Other bits are ignored. Stops at the first failure and keeps what
-    /// was created before it.
+    /// Creates the components whose `ZoComponent` bits are set and which do not exist yet. Ignores
+    /// other bits. Stops at the first failure and keeps the components created before it.
     ///
-    /// Optional: each operation creates what it needs when it is first used. With it, that time is
-    /// spent before the first frame.
-    /// @param flags `ZoComponent` bits, or-ed. Load your own font first where the text bit is set,
-    ///     or the platform's default font is loaded
+    /// Optional: each operation creates its component on first use. Call `Init` to spend this time
+    /// before the first frame.
+    /// @param flags `ZoComponent` bits. If the text bit is set and no font is loaded, the
+    ///     platform's default font is loaded
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_PROGRAM_FAILED, a font code (30 to 32) or ZO_FAILURE
     int Init(unsigned int flags);
 
-    /// Shows what was drawn on the window since the last call. What the window holds afterwards is
-    /// undefined: draw each frame as a whole. It may wait for the display.
-    /// @return ZO_SUCCESS, also when EGL could not show the frame, or ZO_NO_EGL_MANAGER when no
-    ///     window is bound
+    /// Shows the frame drawn on the window, with `eglSwapBuffers`. The window's contents are
+    /// undefined afterwards: draw each frame completely. May block until the display is ready.
+    /// @return ZO_SUCCESS, even if EGL fails to show the frame; or ZO_NO_EGL_MANAGER if no window
+    ///     is bound
     int ZoRefreshOnSrceen() const;
 
-    /// Tells the window's width as of the last binding; a window that is resized later has to be
-    /// bound again.
-    /// @return pixels: 1920 before the first binding, then what EGL told when the window was bound
+    /// Returns the window's width in pixels as of the last binding, or 1920 before the first one.
+    /// Bind again after a resize.
     unsigned int ZoGetWindowWidth() const;
 
-    /// Tells the window's height as of the last binding.
-    /// @return pixels: 1080 before the first binding, then what EGL told when the window was bound
+    /// Returns the window's height in pixels as of the last binding, or 1080 before the first one.
     unsigned int ZoGetWindowHeight() const;
 
-    /// Creates an off-screen buffer, transparent black all over. There can be 15 of them. The
-    /// surface owns it; it lives until `ZoDestoryGLFBO`, beyond the loss of the window.
-    /// @param handle receives the new buffer's handle; untouched on failure
+    /// Creates an off-screen buffer and clears it to transparent black. A surface has up to 15
+    /// buffers. The surface owns the buffer until `ZoDestoryGLFBO` and restores it after a lost
+    /// window.
+    /// @param handle receives the new buffer's handle; unchanged on failure
     /// @param width pixels
-    /// @param height pixels; a size that the driver cannot make is logged, and nothing drawn into
-    ///     such a buffer leaves a mark
-    /// @param format ZO_FORMAT_RGBA8888; any other value is logged and taken as that
-    /// @return ZO_SUCCESS, ZO_NO_FREE_FBO, ZO_INVALID_PARAM for a null pointer, or ZO_FAILURE when
-    ///     no window is bound
+    /// @param height pixels; if the driver rejects the size, this is logged and drawing into the
+    ///     buffer has no effect
+    /// @param format ZO_FORMAT_RGBA8888; any other value is logged and ignored
+    /// @return ZO_SUCCESS, ZO_NO_FREE_FBO, ZO_INVALID_PARAM for a null pointer, or ZO_FAILURE if no
+    ///     window is bound
     int ZoCreateGLFBO(unsigned int* handle, unsigned int width, unsigned int height, int format);
 
-    /// Destroys an off-screen buffer. An unknown handle is logged and changes nothing; the window
-    /// handle counts as unknown. The handle may be given to a new buffer later.
-    /// @param handle what `ZoCreateGLFBO` gave
-    /// @return ZO_SUCCESS, or ZO_NO_FBO_MANAGER while there is no pool of buffers, that is, mostly,
-    ///     while no window is bound; the buffer comes back with the next binding then
+    /// Destroys an off-screen buffer. An unknown handle, such as ZO_WINDOW_HANDLE, is logged and
+    /// changes nothing. A later buffer may get the same handle.
+    /// @param handle handle from `ZoCreateGLFBO`
+    /// @return ZO_SUCCESS, even for an unknown handle; or ZO_NO_FBO_MANAGER if the surface has no
+    ///     buffer pool, normally because no window is bound: the next binding then restores the
+    ///     buffer
     int ZoDestoryGLFBO(unsigned int handle);
 
-    /// Fills a rectangle of a target. Colour and alpha replace what was there: alpha 0 erases.
+    /// Fills a rectangle of a target. Replaces colour and alpha, without blending: alpha 0 erases.
     /// @code
     /// const tagZoRectInfo all = {0, 0, 640, 360};
     /// const tagZoColorRGBA clear = {0, 0, 0, 0};
@@ -261,85 +265,84 @@ public:
     /// @endcode
     /// @param fbo handle of a buffer, or ZO_WINDOW_HANDLE
     /// @param rect pixels of the target
-    /// @param color colour and alpha, not premultiplied
+    /// @param color colour and alpha
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer or an unknown handle,
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
     int ZoDrawRect(unsigned int fbo, const tagZoRectInfo* rect, const tagZoColorRGBA* color);
 
-    /// Copies a region of one buffer into a region of another, scaled linearly when the two differ
-    /// in size. Colour and alpha replace what was there. Source and destination may be the same
-    /// buffer and may overlap. A source region past the buffer's edges repeats its edge pixels. The
-    /// window can be written to; it holds no image to read from, and is opaque black as a source.
+    /// Copies a region of a buffer to a region of another, with linear scaling if their sizes
+    /// differ. Replaces colour and alpha, without blending. Source and destination may be the same
+    /// buffer and may overlap. Outside the source buffer, its edge pixels are repeated. The window
+    /// can be the destination; as a source, it is opaque black.
     /// @code
     /// const tagZoBlitInfo scroll = {list, list, {0, 40, 300, 360}, {0, 0, 300, 360}};
-    /// surface.ZoBlit(&scroll);   // a list of 300 by 400 moves up by a row of 40
+    /// surface.ZoBlit(&scroll);   // moves a list of 300 by 400 up by one row of 40
     /// @endcode
-    /// @param info the two buffers and their regions
+    /// @param info the two handles and regions
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer or an unknown handle,
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
     int ZoBlit(const tagZoBlitInfo* info);
 
-    /// Clears the whole window to transparent black and draws a region of a buffer on it, blended:
-    /// a pixel (r, g, b, a) lands as (r*a, g*a, b*a, a*a). The call replaces everything that was
-    /// drawn on the window before it in this frame. On failure the window is left as it was.
-    /// @param fbo handle of the buffer; the window itself shows as opaque black
+    /// Clears the whole window to transparent black, then blends a region of a buffer onto it: a
+    /// buffer pixel (r, g, b, a) becomes (r*a, g*a, b*a, a*a) on the window. Everything drawn on
+    /// the window earlier in the frame is lost. On failure, the window is unchanged.
+    /// @param fbo handle of the buffer; ZO_WINDOW_HANDLE shows as opaque black
     /// @param src region to show, in pixels of the buffer
-    /// @param dst where to show it, in pixels of the window; the region is stretched to it
+    /// @param dst destination in pixels of the window; the region is scaled to it
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer or an unknown handle,
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
     int ZoDisplayFBO(unsigned int fbo, const tagZoRectInfo* src, const tagZoRectInfo* dst);
 
-    /// Clears the whole window to transparent black and draws client pixels on it, blended as by
-    /// `ZoDisplayFBO`. Uploads the pixels at every call; nothing is kept.
-    /// @param info the pixels, and where to show them
-    /// @pre the surface is bound; `info->data` holds width * height * 4 bytes, or is null for a
-    ///     bitmap without defined content
+    /// Clears the whole window to transparent black, then blends an image from client memory onto
+    /// it, as `ZoDisplayFBO` does. Uploads the pixels at every call and keeps no copy.
+    /// @param info the image and its destination
+    /// @pre the surface is bound; `info->data` has width * height * 4 bytes, or is null: the
+    ///     image's content is undefined then
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, ZO_PROGRAM_FAILED or ZO_FAILURE
     int ZoDisplayBitmap(const tagZoBitmapInfo* info);
 
-    /// Loads a font file for all text drawn from now on. Without it, the first text operation loads
-    /// the platform's default font at 40 pixels. A loaded font is dropped with the window.
-    /// @param path a file of any format that FreeType opens; the path is not kept, but the file
-    ///     stays open and mapped until another font is loaded or the window is lost: replace it by
-    ///     renaming, never in place
-    /// @param size glyph height in pixels for text of the standard style (40, neither bold nor
-    ///     italic) and for measuring; 0 means 40
+    /// Loads a font for all text and renders its glyphs for standard text. If no font is loaded,
+    /// the first text operation loads the platform's default font at 40 pixels. The font is lost
+    /// with the window.
+    /// @param path a file in any format that FreeType opens. The file stays open and mapped until
+    ///     another font is loaded or the window is lost: replace it by renaming, never in place
+    /// @param size glyph height in pixels for standard text and for measuring; 0 means 40
     /// @pre the surface is bound
-    /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null path, with nothing changed; a font code (30 to
-    ///     32) or ZO_FAILURE: the font loaded before is gone then. Until another is loaded, text draws
-    ///     nothing: plain text with ZO_SUCCESS, measuring 30 a unit, and styled text with that or with
-    ///     ZO_FONT_ATLAS_EMPTY
+    /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null path, which changes nothing; or a font code
+    ///     (30 to 32) or ZO_FAILURE, which drop the previous font. Until a font is loaded, text
+    ///     draws nothing: standard text returns ZO_SUCCESS and measures 30 pixels a unit, styled
+    ///     text returns ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
     int ZoLoadFont(const char* path, unsigned int size);
 
-    /// Measures a text in pixels at the size given to `ZoLoadFont`, whatever it asks for: the sum
-    /// of its units' advances, with 30 for each unit that the font cannot show (a space, a line
-    /// feed). The height is always 50.
-    /// @param info the text; only `text` and `length` count
-    /// @param width receives the width; untouched on failure
-    /// @param height receives the height; untouched on failure
+    /// Measures a text in pixels at the size passed to `ZoLoadFont`, regardless of the text's own
+    /// size and style: the sum of its units' advances, and 30 for each unit without a visible glyph
+    /// (a space, a line feed). The height is always 50.
+    /// @param info the text; only `text` and `length` are used
+    /// @param width receives the width; unchanged on failure
+    /// @param height receives the height; unchanged on failure
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, a font code (30 to 32),
     ///     ZO_PROGRAM_FAILED or ZO_FAILURE
     int ZoGetTextSize(const tagZoTextInfo* info, unsigned int* width, unsigned int* height);
 
-    /// Draws one line of text, blended over what the target holds. Units that the font cannot show
-    /// (a space, a line feed) are logged and take no room.
+    /// Draws one line of text, blended over the target. Units without a visible glyph (a space, a
+    /// line feed) are logged and do not advance the pen.
     /// @code
     /// tagZoTextInfo text = {};
     /// text.text = u"Volume";
     /// text.length = 6;
     /// text.color = {255, 255, 255, 255};
     /// text.fontSize = 40;
-    /// const tagZoRectInfo pen = {20, 60, 0, 0};   // letters stand on y = 60
+    /// const tagZoRectInfo pen = {20, 60, 0, 0};   // the baseline is y = 60
     /// surface.ZoDrawText(buffer, &text, &pen);
     /// @endcode
     /// @param handle handle of a buffer, or ZO_WINDOW_HANDLE
     /// @param info the text, its colour, size and style
-    /// @param rect its x is where the first glyph starts and its y is the baseline, in pixels of
-    ///     the target; width and height are not used and nothing is clipped to them
+    /// @param rect x is where the first glyph starts and y is the baseline, in pixels of the
+    ///     target; width and height are ignored, and nothing is clipped
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, an unknown handle or a target of
     ///     size 0, a font code (30 to 32), ZO_PROGRAM_FAILED or ZO_FAILURE
@@ -348,7 +351,7 @@ public:
 private:
     static constexpr int fboInfoCount = 16;
 
-    // Conversions from the client's pixels and bytes to what GL takes.
+    // Conversions from the client's pixels and bytes to GL's units.
     unsigned int ConvertFormatToGLES(int format) const;
     void ScreenCoordToVCoord(const tagZoRectInfo* in, tagRectInfo* out, unsigned int targetWidth,
                              unsigned int targetHeight) const;
@@ -359,10 +362,10 @@ private:
     void SetBitmapInfo(tagBitmapInfo* out, const tagZoBitmapInfo* in, unsigned int targetWidth,
                        unsigned int targetHeight) const;
 
-    // Lifecycle: drops everything that depends on the GL context, in a fixed order.
+    // Lifecycle: destroys everything that depends on the GL context, in a fixed order.
     void ResetGLSource();
 
-    // Buffer handles and the table that outlives the context.
+    // Buffer handles and the table from which buffers are restored.
     int CreatePool();
     int EnsurePool() { return fboManager ? ZO_SUCCESS : CreatePool(); }
     inline int FindTarget(unsigned int handle, tagFrameBuffObject* target);
@@ -372,7 +375,7 @@ private:
     void RemoveFBO(unsigned int handle);
     void InitFBO(TagFboInfo* entry) const;
 
-    // Each creates the component of its flag; does nothing when the flag is clear.
+    // Each creates one component if its flag is set.
     int OSDTextInit(unsigned int flags);
     int OSDBlitInit(unsigned int flags);
     int OSDBitmapInit(unsigned int flags);

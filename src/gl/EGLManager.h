@@ -7,8 +7,8 @@
 
 #include <EGL/egl.h>
 
-/// Brings EGL up on a window, presents frames, and tears EGL down again. Every failure is logged
-/// with EGL's error value. The window stays the client's.
+/// Initialises EGL on a window, presents frames and releases EGL. Every failure is logged with
+/// EGL's error value. The client owns the window.
 class ZOGLES_API EGLManager {
 public:
     EGLManager();
@@ -17,14 +17,14 @@ public:
     EGLManager(const EGLManager&) = delete;
     EGLManager& operator=(const EGLManager&) = delete;
 
-    /// Opens and initialises the display, chooses a configuration and creates the context. A
-    /// failure leaves what was obtained before it, for `EGLRelease` to let go of.
+    /// Opens and initialises the display, chooses a configuration and creates the context. After a
+    /// failure, `EGLRelease` releases what was obtained before it.
     /// @return ZO_SUCCESS, or ZO_NO_DISPLAY to ZO_NO_CONTEXT
     int EGLSetupContext();
 
     /// First set-up on a window: context, then window surface.
     /// @return ZO_SUCCESS, a code of `EGLSetupContext`, ZO_NO_WINDOW_SURFACE (everything is
-    ///     released), or ZO_FAILURE when there is a surface already (nothing is changed)
+    ///     released), or ZO_FAILURE if a surface exists already (nothing is changed)
     int CreateWindowSurface(ANativeWindow* window);
 
     /// Replaces the window surface and keeps display and context.
@@ -36,7 +36,7 @@ public:
     int MakeCurrent();
 
     /// Presents the back buffer.
-    /// @return what EGL returned
+    /// @return the result of `eglSwapBuffers`
     EGLBoolean SwapBuffers() const;
 
     /// Destroys context and surface, unbinds the calling thread and terminates the display, for the

@@ -37,7 +37,7 @@ GLuint CreateTexture(int width, int height, int format) {
 GLuint CreateFramebuffer(GLuint texture) {
     GLuint framebuffer = 0;
     glGenFramebuffers(1, &framebuffer);
-    if (framebuffer == 0) { // the window's, whose status says nothing of this buffer
+    if (framebuffer == 0) { // framebuffer 0 is the window: its status is not this buffer's
         __android_log_print(LogError, tag, "%s", StatusMessage(0));
         return 0;
     }

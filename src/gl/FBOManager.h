@@ -8,7 +8,7 @@
 #include <GLES2/gl2.h>
 #include <cstddef>
 
-/// One render target. Copied by value; the GL objects stay the pool's.
+/// One render target. Copies refer to the same GL objects, which the pool owns.
 struct tagFrameBuffObject {
     unsigned int handle; ///< ZO_NO_HANDLE marks a free slot
     GLuint texture;      ///< the pixels; 0 for the window
@@ -17,8 +17,8 @@ struct tagFrameBuffObject {
     int height;          ///< pixels
 };
 
-/// The first entry with that handle, or null. Pass ZO_NO_HANDLE to find the first free entry. Out of
-/// line because FindEntry() rarely needs it.
+/// The first entry with that handle, or null. Pass ZO_NO_HANDLE to find the first free entry. Out
+/// of line because FindEntry() rarely needs it.
 template <typename Entry, size_t Count>
 __attribute__((noinline)) Entry* FirstEntry(Entry (&entries)[Count], unsigned int handle) {
     for (Entry& entry : entries) {
@@ -43,8 +43,8 @@ Entry* FindEntry(Entry (&entries)[Count], unsigned int handle) {
 /// A fixed table of render targets, looked up by handle. Allocates nothing.
 ///
 /// Slot 0 is the window under ZO_WINDOW_HANDLE; slots 1 to 15 hold the off-screen buffers, each a
-/// texture attached to a framebuffer object, both owned by the pool. A buffer that is created again
-/// keeps its handle, whatever slot it gets. New handles differ from all that are in use.
+/// texture attached to a framebuffer object, both owned by the pool. A restored buffer keeps its
+/// handle, whatever slot it gets. New handles differ from all handles in use.
 class ZOGLES_API FBOManager {
 public:
     static constexpr int slotCount = 16;
@@ -56,18 +56,18 @@ public:
     FBOManager(const FBOManager&) = delete;
     FBOManager& operator=(const FBOManager&) = delete;
 
-    /// Creates a buffer in the lowest free slot, transparent black. The driver's verdict on it is
-    /// logged and changes nothing.
+    /// Creates a buffer in the lowest free slot, transparent black. The framebuffer's status is
+    /// logged and otherwise ignored.
     /// @param handle receives the new handle; with `reuseHandle`, gives the one to use, where
-    ///     ZO_NO_HANDLE counts as a full pool
+    ///     ZO_NO_HANDLE is treated like a full pool
     /// @param format GL pixel format of the texture
     /// @pre with `reuseHandle`, the handle names no target yet
     /// @return ZO_SUCCESS, or ZO_NO_FREE_FBO, with `*handle` untouched
     int GLCreateFBO(unsigned int* handle, int width, int height, int format, bool reuseHandle);
 
-    /// Chooses the handle of the next buffer: the number of its slot or, where a buffer or a record
-    /// has that number, the lowest that neither has.
-    /// @param records buffers that are to be created again
+    /// Chooses the handle of the next buffer: the number of its slot or, if a buffer or a record
+    /// uses it, the lowest unused number.
+    /// @param records buffers to restore
     /// @return ZO_NO_HANDLE if no number or no slot is left
     unsigned int NewHandle(const TagFboInfo (&records)[slotCount]) const;
 
@@ -91,7 +91,7 @@ public:
     /// Copies a target's record.
     void NativeFBOOut(const tagFrameBuffObject* in, tagFrameBuffObject* out) const;
 
-    /// Makes a record one of a free slot.
+    /// Marks a slot as free.
     void InitFBO(tagFrameBuffObject* fbo) const;
 
 private:

@@ -1,5 +1,5 @@
 /// @file
-/// Directing GL's drawing to a target.
+/// Binds, clears and unbinds render targets.
 #ifndef ZOGLES_GL_RENDERTARGET_H
 #define ZOGLES_GL_RENDERTARGET_H
 
@@ -7,7 +7,7 @@
 
 #include <GLES2/gl2.h>
 
-/// Directs drawing to a framebuffer (0 is the window) and maps vertex space to all of it.
+/// Makes a framebuffer (0 is the window) the target and maps vertex space to its full size.
 /// @param width,height pixels
 inline void BindTarget(GLuint framebuffer, int width, int height) {
     glBindFramebuffer(GL_FRAMEBUFFER, framebuffer);

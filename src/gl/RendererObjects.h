@@ -9,14 +9,14 @@
 #include <initializer_list>
 #include <memory>
 
-/// What a renderer's program is built from.
+/// The shader sources of a renderer.
 struct ProgramSource {
-    const char* tag; ///< the renderer's, for the log
+    const char* tag; ///< log tag of the renderer
     const char* vertex;
     const char* fragment;
 };
 
-/// The renderer's members for its objects.
+/// References to a renderer's members.
 struct RendererObjects {
     std::unique_ptr<ShaderProgram>& helper;
     GLuint& program;
@@ -29,7 +29,7 @@ struct Location {
     GLint& value;
 };
 
-/// Passes on a position and its texture coordinates. Shared by the textured quads and the text.
+/// Passes a position and its texture coordinates through. Shared by textured quads and text.
 constexpr char texturedVertexSource[] = "attribute vec4 coord;\n"
                                         "varying vec2 texpos;\n"
                                         "void main() {\n"
@@ -38,12 +38,12 @@ constexpr char texturedVertexSource[] = "attribute vec4 coord;\n"
                                         "}\n";
 
 /// Replaces a renderer's objects by new ones and looks up the attribute, then the uniforms.
-/// @return ZO_SUCCESS, or ZO_PROGRAM_FAILED, which is logged: program and buffer are 0 then
+/// @return ZO_SUCCESS, or ZO_PROGRAM_FAILED, which is logged and leaves program and buffer 0
 int BuildRenderer(const ProgramSource& source, const RendererObjects& objects,
                   const Location& attribute, std::initializer_list<Location> uniforms);
 
-/// Deletes buffer and program, those that exist. Harmless after the context is gone. The helper
-/// stays: it is destroyed with the renderer's other members, in their order.
+/// Deletes the buffer and the program if they exist. Safe without a context. Keeps the helper: it
+/// is destroyed with the renderer's other members, in their order.
 void ReleaseRenderer(const RendererObjects& objects);
 
 #endif

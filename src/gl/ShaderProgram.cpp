@@ -77,7 +77,7 @@ unsigned int ShaderProgram::CreateProgram(const char* vertexSource,
         return 0;
     }
     const GLuint program = LinkShaderProgram(vertexShader, fragmentShader);
-    // Attached shaders live on until their program goes.
+    // The program keeps attached shaders alive.
     glDeleteShader(vertexShader);
     glDeleteShader(fragmentShader);
     return program;

@@ -1,5 +1,5 @@
 /// @file
-/// The textures that the library makes: no mipmaps, linear filter, edge pixels repeated.
+/// The library's textures: no mipmaps, linear filter, edge pixels repeated.
 #ifndef ZOGLES_GL_TEXTURE_H
 #define ZOGLES_GL_TEXTURE_H
 
@@ -7,7 +7,7 @@
 #include <algorithm>
 
 /// Selects a texture unit and generates a texture name to bind there.
-/// @return the name, 0 when the driver has none left
+/// @return the name, or 0 if the driver is out of names
 inline GLuint GenerateTexture(GLenum unit) {
     GLuint texture = 0;
     glActiveTexture(unit);
@@ -15,11 +15,11 @@ inline GLuint GenerateTexture(GLenum unit) {
     return texture;
 }
 
-/// Gives the bound texture its storage, one byte a channel.
-/// @param pixels in rows from t = 0 upwards, or null for storage without defined content
+/// Allocates the bound texture's storage, one byte per channel.
+/// @param pixels rows starting at t = 0, or null for storage with undefined content
 inline void AllocateTexture(GLenum format, GLsizei width, GLsizei height, const void* pixels) {
-    // Drivers refuse a size past their limit, but Mesa's software driver crashes over one of 2^28
-    // and more. No driver's limit is near 2^20, so what is cut here is refused all the same.
+    // Drivers reject a size above their limit, but Mesa's software driver crashes at 2^28 and
+    // above. No driver's limit is near 2^20, so a clamped size is still rejected.
     constexpr GLsizei beyondAllLimits = 1 << 20;
     glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(format), std::min(width, beyondAllLimits),
                  std::min(height, beyondAllLimits), 0, format, GL_UNSIGNED_BYTE, pixels);

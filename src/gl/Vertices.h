@@ -1,5 +1,5 @@
 /// @file
-/// Vertices, and the one way in which they reach GL: a renderer's buffer, refilled for every draw.
+/// Vertices, and their upload into a renderer's buffer, which is refilled for every draw.
 #ifndef ZOGLES_GL_VERTICES_H
 #define ZOGLES_GL_VERTICES_H
 
@@ -7,8 +7,8 @@
 #include <cstddef>
 
 /// One vertex: a position, and two floats whose meaning depends on the shader (z and w, or the
-/// texture coordinates s and t). Arithmetic applies to each of the four floats by itself, as GCC and
-/// Clang define it for vector types.
+/// texture coordinates s and t). Arithmetic applies to each of the four floats by itself, as GCC
+/// and Clang define it for vector types.
 using Vertex = float __attribute__((vector_size(4 * sizeof(float))));
 
 /// The corners of a rectangle, by their place on the screen.

@@ -20,8 +20,8 @@ void OSDBitmap::CreateTexture(const tagBitmapInfo* info) {
     texture = GenerateTexture(GL_TEXTURE0);
     glBindTexture(GL_TEXTURE_2D, texture);
     AllocateTexture(info->format, info->width, info->height, info->data);
-    // The glyph atlases leave 1 behind. Rows of 4-byte pixels are read alike under both, so it is
-    // enough that the default is back afterwards.
+    // The glyph atlases set the alignment to 1. Rows of 4-byte pixels are the same under 1 and 4,
+    // so restoring the default after the upload is enough.
     glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
     FilterLinear();
     ClampToEdge();
@@ -36,7 +36,7 @@ void OSDBitmap::DeleteTexture() {
 }
 
 void OSDBitmap::RenderBimap(const tagRectInfo* rect) const {
-    // Client rows run from the top, so t = 0 is the top.
+    // Client rows run top-down, so t = 0 is the top.
     const Corners corners = SpanCorners(Vertex{rect->x, rect->y, 0.0f, 0.0f},
                                         Vertex{rect->width, -rect->height, 1.0f, 1.0f});
     BindVertices(coordLocation, vertexBuffer);

@@ -8,7 +8,7 @@
 
 #include <GLES2/gl2.h>
 
-/// Clears the window and blends client pixels onto it, by way of a texture that lives for one draw.
+/// Clears the window and blends client pixels onto it, through a texture that exists for one draw.
 class ZOGLES_API OSDBitmap {
 public:
     OSDBitmap();
@@ -21,7 +21,7 @@ public:
     /// @return ZO_SUCCESS or ZO_PROGRAM_FAILED
     int Init();
 
-    /// Uploads the pixels into a new texture; the first row lies at t = 0.
+    /// Uploads the pixels into a new texture; the first row is at t = 0.
     void CreateTexture(const tagBitmapInfo* info);
 
     /// Deletes the texture, if there is one.

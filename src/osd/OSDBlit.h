@@ -28,9 +28,9 @@ public:
     /// @return ZO_SUCCESS or ZO_PROGRAM_FAILED
     int Init();
 
-    /// Copies.
-    /// @pre source and destination are different textures, or texture 0: GL leaves it undefined to
-    ///     sample the texture that is drawn into
+    /// Copies the region.
+    /// @pre source and destination are different textures, or texture 0: sampling the texture that
+    ///     is drawn into is undefined
     void Blit(const tagBlitInfo* info) const;
 
     /// Draws the quad from the bound texture into the bound target.

@@ -21,7 +21,7 @@ public:
     /// @return ZO_SUCCESS or ZO_PROGRAM_FAILED
     int Init();
 
-    /// @param texture 0 holds no image
+    /// @param texture the buffer's texture; 0 shows as opaque black
     /// @param texRect region to show, in texture space
     /// @param posRect destination in the window's vertex space
     /// @param width,height the window's size in pixels

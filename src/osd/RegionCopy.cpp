@@ -13,8 +13,8 @@ struct Span {
     int length;
 };
 
-// One pixel on either side belongs to the linear filter. A region that lies outside the buffer
-// shows its edge pixels, so at least one is kept.
+// The linear filter needs one more pixel on either side. A region outside the buffer shows edge
+// pixels, so at least one pixel is kept.
 Span TouchedPixels(double low, double high, int size) {
     const double start = std::clamp(std::floor(low * size) - 1.0, 0.0, size - 1.0);
     const double end = std::clamp(std::ceil(high * size) + 1.0, start + 1.0, size + 0.0);

@@ -1,4 +1,4 @@
-// The surface's drawing operations, and how each gets its renderer.
+// The surface's drawing operations, and the creation of their renderers.
 
 #include "osd/OSDBitmap.h"
 #include "osd/OSDBlit.h"

@@ -37,8 +37,8 @@ inline void DrawRegion(const tagRectInfo& texRect, const tagRectInfo& posRect) {
     DrawQuad({corners.bottomLeft, corners.bottomRight, corners.topLeft, corners.topRight});
 }
 
-/// Makes the window the target and clears it to transparent black: the start of both operations
-/// that show something on the window.
+/// Makes the window the target and clears it to transparent black, as presentation and bitmap both
+/// start.
 /// @param width,height the window's size in pixels
 inline void ClearWindow(int width, int height) {
     BindTarget(0, width, height);

@@ -1,5 +1,5 @@
 /// @file
-/// The platform log, with the platform's own interface. Where the platform has one, it is used.
+/// The log, with the platform's interface. Platforms that have this log use theirs.
 #ifndef ZOGLES_PLATFORM_LOG_H
 #define ZOGLES_PLATFORM_LOG_H
 
@@ -7,15 +7,15 @@
 #include <android/log.h>
 #else
 
-/// Writes a message to stderr as "E/Tag: message", each line of it by one write.
+/// Writes a message to stderr as "E/Tag: message", with one write per line.
 ///
-/// The environment variable ANDROID_LOG_TAGS, read at the first call, says what is shown: entries
-/// "tag:priority" set apart by blanks or commas, where the priority is the least one shown (one of
-/// V D I W E F or its number, or S for none) and the tag * stands for every tag not named. If a tag
-/// appears twice, the last entry applies. Entries with an unknown priority are ignored. The default
-/// is "*:V". A message that is not shown is not formatted.
+/// The environment variable ANDROID_LOG_TAGS selects the messages to show. It is read at the first
+/// call and has entries "tag:priority", separated by blanks or commas. The priority is the lowest
+/// one shown: V, D, I, W, E, F or its number, or S to show none. The tag * applies to every tag
+/// without an entry. If a tag appears twice, the last entry applies. Entries with an unknown
+/// priority are ignored. The default is "*:V". Messages that are not shown are not formatted.
 ///
-/// Messages longer than 4,000 bytes are cut.
+/// Messages longer than 4,000 bytes are truncated.
 /// @return the number of bytes written, 0 for a message not shown, or a negative number
 // NOLINTBEGIN(bugprone-reserved-identifier): the platform's own name
 extern "C" __attribute__((visibility("default"), format(printf, 3, 4))) int
@@ -34,7 +34,7 @@ enum LogPriority : int {
     LogSilent = 8, ///< for filters: nothing is logged at it
 };
 
-/// Logs that memory was refused.
+/// Logs that an allocation failed.
 inline void LogOutOfMemory(const char* tag) {
     __android_log_print(LogError, tag, "out of memory\n");
 }

@@ -1,5 +1,5 @@
 /// @file
-/// Which messages the log shows.
+/// Selects the messages that the log shows.
 #ifndef ZOGLES_PLATFORM_LOGFILTER_H
 #define ZOGLES_PLATFORM_LOGFILTER_H
 
@@ -7,12 +7,12 @@
 
 #include <cstddef>
 
-/// A filter in the platform's own syntax (see Log.h), parsed once into a fixed table: asking it
-/// allocates nothing and makes no system call.
+/// A filter in the platform's syntax (see Log.h), parsed once into a fixed table. A query allocates
+/// nothing and makes no system call.
 class LogFilter {
 public:
-    /// @param expression the filter's text, copied; null and "" show everything. Entries past the
-    ///     table's 32, and tags past its 1,024 bytes, are left out.
+    /// @param expression the filter's text, copied; null and "" show everything. Entries after the
+    ///     first 32, and tags that exceed 1,024 bytes in total, are ignored.
     explicit LogFilter(const char* expression);
 
     /// Whether a message of that priority under that tag is shown.

@@ -1,5 +1,5 @@
-// The off-screen buffers' handles, and the table that brings the buffers back after the loss of the
-// GL context.
+// The off-screen buffers' handles, and the table from which buffers are restored after the GL
+// context was lost.
 
 #include "surface/Operations.h"
 

@@ -4,7 +4,7 @@
 #include <cfloat>
 #include <cstddef>
 
-// Excess precision can put an edge on another pixel.
+// Excess precision can move an edge to another pixel.
 static_assert(FLT_EVAL_METHOD == 0, "float expressions must be evaluated in single precision");
 
 // Clients in other languages and older binaries share these records in memory.

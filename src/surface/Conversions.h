@@ -1,6 +1,6 @@
 /// @file
-/// From the client's pixels and bytes to what GL takes. The float expressions are single precision
-/// and evaluated as written, so that every machine puts an edge on the same pixel.
+/// Converts the client's pixels and bytes to GL's units. The float expressions are evaluated in
+/// single precision as written, so that every machine places an edge on the same pixel.
 #ifndef ZOGLES_SURFACE_CONVERSIONS_H
 #define ZOGLES_SURFACE_CONVERSIONS_H
 
@@ -16,7 +16,7 @@ struct Size {
     bool IsEmpty() const { return width == 0 || height == 0; }
 };
 
-/// Pixels to vertex space; all zero for an empty target.
+/// Converts pixels to vertex space. Returns zeros for an empty target.
 inline tagRectInfo ToVertexSpace(const tagZoRectInfo& rect, Size target) {
     if (target.IsEmpty()) {
         return {};
@@ -30,7 +30,7 @@ inline tagRectInfo ToVertexSpace(const tagZoRectInfo& rect, Size target) {
             twice(rect.width) / targetWidth, twice(rect.height) / targetHeight};
 }
 
-/// Pixels to texture space; all zero for an empty target.
+/// Converts pixels to texture space. Returns zeros for an empty target.
 inline tagRectInfo ToTextureSpace(const tagZoRectInfo& rect, Size target) {
     if (target.IsEmpty()) {
         return {};
@@ -52,7 +52,8 @@ constexpr std::array<float, 256> MakeChannelIntensity() {
     return table;
 }
 
-/// The intensity of each channel byte: 0 and 1 are the intensity itself, others that of 255 parts.
+/// The intensity of each channel byte: 0 and 1 are the intensity itself, other values are
+/// value/255.
 inline constexpr std::array<float, 256> channelIntensity = MakeChannelIntensity();
 
 inline tagColorRGBA ToGLColor(const tagZoColorRGBA& in) {

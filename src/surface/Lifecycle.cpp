@@ -12,7 +12,7 @@
 
 #include <new>
 
-// cppcheck-suppress uninitMemberVar; InitFBO fills the table of buffers
+// cppcheck-suppress uninitMemberVar; InitFBO initialises fboInfo
 ZoGLDrawSurface::ZoGLDrawSurface() {
     for (TagFboInfo& entry : fboInfo) {
         InitFBO(&entry);
@@ -65,8 +65,8 @@ void ZoGLDrawSurface::ZoDestoryGLWindowSurface() {
     ResetGLSource();
 }
 
-// The context goes last where it still exists; after a release the deletions of the others run
-// without one, which GL ignores: their objects went with the context.
+// If the context still exists, it is destroyed last. After a release, the other deletions run
+// without a context: GL ignores them, because their objects were destroyed with the context.
 void ZoGLDrawSurface::ResetGLSource() {
     fontAtlas.reset();
     fontStyleAtlas.reset();

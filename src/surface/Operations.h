@@ -1,5 +1,5 @@
 /// @file
-/// What the surface's operations share: results, records, targets and components.
+/// Helpers that the surface's operations share: results, records, targets and components.
 #ifndef ZOGLES_SURFACE_OPERATIONS_H
 #define ZOGLES_SURFACE_OPERATIONS_H
 
@@ -15,7 +15,7 @@
 /// The tag of every line that the surface logs.
 constexpr char surfaceTag[] = "ZoGLDrawSurface";
 
-/// The public code for a component's nonzero code.
+/// Converts a component's nonzero code to the public code.
 inline int ToError(int code) {
     const auto isWithin = [code](int first, int last) { return code >= first && code <= last; };
     if (isWithin(ZO_NO_DISPLAY, ZO_NO_WINDOW_SURFACE) || code == ZO_RESERVED_10 ||
@@ -27,14 +27,14 @@ inline int ToError(int code) {
     return code == ZO_RESERVED_12 ? ZO_RESERVED_11 : ZO_FAILURE;
 }
 
-/// Logs a null pointer that a client passed.
+/// Logs a null argument.
 /// @return ZO_INVALID_PARAM
 inline int RefuseNull() {
     __android_log_print(LogError, surfaceTag, "param is nullptr\n");
     return ZO_INVALID_PARAM;
 }
 
-/// Logs that memory was refused.
+/// Logs that an allocation failed.
 /// @return ZO_FAILURE
 inline int RefuseMemory() {
     LogOutOfMemory(surfaceTag);
@@ -48,14 +48,14 @@ __attribute__((cold)) inline bool RefuseFill(int rc) {
     return false;
 }
 
-/// Zeroes a record, or logs why not.
+/// Zeroes a record. Logs a failure.
 template <typename Record>
 bool ZeroRecord(Record* record) {
     const int rc = memset_s(record, sizeof(Record), 0, sizeof(Record));
     return rc == 0 || RefuseFill(rc);
 }
 
-/// Zeroes records in turn, up to the first that fails.
+/// Zeroes records in turn until one fails.
 template <typename... Records>
 bool ZeroRecords(Records*... records) {
     return (ZeroRecord(records) && ...);
@@ -65,7 +65,7 @@ inline Size SizeOf(const tagFrameBuffObject& target) {
     return {static_cast<unsigned int>(target.width), static_cast<unsigned int>(target.height)};
 }
 
-/// Copies the target that an operation names, or logs why not.
+/// Looks up and copies the target of an operation. Logs a failure.
 /// @return ZO_SUCCESS, ZO_INVALID_PARAM for an unknown handle, or ZO_FAILURE
 inline int ZoGLDrawSurface::FindTarget(unsigned int handle, tagFrameBuffObject* target) {
     if (const int code = EnsurePool(); code != ZO_SUCCESS) {
@@ -82,9 +82,9 @@ inline int ZoGLDrawSurface::FindTarget(unsigned int handle, tagFrameBuffObject* 
 }
 
 /// Replaces a component by a new one, built from `args`, and initialises it. A component that fails
-/// is destroyed, so that the next attempt starts afresh.
-/// @param failureFormat the line to log on failure; takes the component's code
-/// @return ZO_SUCCESS, or the component's code as the client gets it
+/// is destroyed, so that the next attempt starts from scratch.
+/// @param failureFormat format of the log line on failure, with the component's code as argument
+/// @return ZO_SUCCESS, or the public code for the component's code
 template <typename Component, typename... Args>
 int InstallComponent(std::unique_ptr<Component>& member, const char* failureFormat,
                      Args&&... args) {

@@ -1,16 +1,16 @@
 /// @file
-/// The records that the renderers work on: everything in GL's units.
+/// The records that the renderers work on, in GL's units.
 #ifndef ZOGLES_SURFACE_RECORDS_H
 #define ZOGLES_SURFACE_RECORDS_H
 
 #include "zogles/ZoGLDrawSurface.h"
 
-/// A rectangle in one of two spaces, fixed by who reads it.
+/// A rectangle in vertex space or in texture space, depending on its use.
 ///
 /// Vertex space: the target's normalised device coordinates, -1 to 1, y upwards.
 /// Texture space: 0 to 1, origin at the bottom-left corner.
 ///
-/// In both, (x, y) is the top-left corner, the extents are positive, and the bottom edge lies at
+/// In both, (x, y) is the top-left corner and the extents are positive. The bottom edge is at
 /// y - height.
 struct tagRectInfo {
     float x;
@@ -19,7 +19,7 @@ struct tagRectInfo {
     float height;
 };
 
-/// A colour as GL takes it, 0.0 to 1.0 a channel, not premultiplied.
+/// A colour in GL's units, 0.0 to 1.0 per channel, not premultiplied.
 struct tagColorRGBA {
     float r;
     float g;
@@ -27,7 +27,7 @@ struct tagColorRGBA {
     float a;
 };
 
-/// A text request; the text stays the client's.
+/// A text request. The client owns the text.
 struct tagTextInfo {
     const char16_t* text;
     unsigned int length;
@@ -40,7 +40,7 @@ struct tagTextInfo {
     unsigned char italic;
 };
 
-/// A bitmap request; the pixels stay the client's.
+/// A bitmap request. The client owns the pixels.
 struct tagBitmapInfo {
     const unsigned char* data;
     tagRectInfo rect; ///< destination in the window's vertex space

@@ -8,10 +8,10 @@
 #include <ft2build.h>
 #include FT_FREETYPE_H
 
-/// One texture with every character that a font maps, all at one pixel size, and what is known of
-/// each. Built once a font is loaded, then only read; keeps nothing of FreeType.
+/// One texture with every character that a font maps, at one pixel size, and the metrics of each.
+/// Built when a font is loaded, then only read. Keeps no FreeType object.
 ///
-/// Every load starts by dropping the old atlas, so a failed one leaves it empty. Loading needs the
+/// A load first drops the old atlas, so the atlas is empty after a failure. Loading needs the
 /// surface's GL context; it leaves texture unit 1 active with no texture bound and an unpack
 /// alignment of 1.
 class ZOGLES_API FontAtlas {
@@ -45,10 +45,10 @@ public:
     /// Records one glyph whose cell starts at (x, y) of the texture.
     void FontCharInfoToMap(FT_GlyphSlot glyph, int x, int y, unsigned long charCode);
 
-    /// Drops texture and records, if there is a texture.
+    /// Deletes the texture and clears the records, if there is a texture.
     void DeleteTexture();
 
-    /// The texture's name, 0 for none; it stays the atlas's.
+    /// The texture's name, or 0. The atlas owns the texture.
     ZOGLES_INLINE unsigned int GetFontTexture() const { return texture; }
 
     /// The records, by character code.

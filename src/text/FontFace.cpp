@@ -13,7 +13,7 @@ constexpr FT_Pos boldStrength = 64; // one pixel, in FreeType's 26.6 units
 void EmboldenBitmap(FT_GlyphSlot glyph) {
     if (FT_GlyphSlot_Own_Bitmap(glyph) == 0 &&
         FT_Bitmap_Embolden(glyph->library, &glyph->bitmap, boldStrength, boldStrength) == 0) {
-        // The bitmap grows upwards, as FreeType's own FT_GlyphSlot_Embolden has it.
+        // The bitmap grows upwards, as in FreeType's FT_GlyphSlot_Embolden.
         glyph->bitmap_top += static_cast<FT_Int>(boldStrength >> 6);
     }
 }
@@ -56,7 +56,7 @@ FT_Error LoadBoldChar(FT_Face face, FT_ULong code) {
     if (error != 0) {
         return error;
     }
-    // What cannot be made bolder, such as an outline without area, is shown as it is.
+    // A glyph that cannot be emboldened, such as an outline without area, is shown unchanged.
     FT_GlyphSlot glyph = face->glyph;
     if (glyph->format == FT_GLYPH_FORMAT_OUTLINE) {
         FT_Outline_Embolden(&glyph->outline, boldStrength);

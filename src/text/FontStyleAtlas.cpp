@@ -4,11 +4,11 @@
 
 namespace {
 
-// Each glyph point moves to the right by a fifth of its height.
+// Moves each point of a glyph to the right by a fifth of its height.
 constexpr FT_Matrix slant = {0x10000, 0x3333, 0, 0x10000};
 
-// Calls `visit` with every unit of the text that can be loaded, rendered, in order. Heavier strokes
-// are made here, so that sizing and rendering see the same bitmaps.
+// Calls `visit` with every unit of the text that can be loaded, rendered, in order. Emboldens here,
+// so that sizing and rendering see the same bitmaps.
 constexpr auto visitText = [](const auto& visit, FT_Face face, const tagTextInfo& info) {
     if (face == nullptr) {
         return;

@@ -9,9 +9,8 @@
 #include <ft2build.h>
 #include FT_FREETYPE_H
 
-/// Keeps a font's face open and renders, for each request, just the units of its text at its size,
-/// bold or italic as it asks, into a new texture. Nothing is cached: each request drops what the
-/// one before it made.
+/// Keeps a font's face open and renders, for each request, the units of its text at its size and
+/// style into a new texture. Nothing is cached: each request drops the result of the previous one.
 ///
 /// A request reads the text up to its first zero unit and never past its `length`. It needs the
 /// surface's GL context, and leaves texture unit 2 active with no texture bound and an unpack
@@ -24,13 +23,13 @@ public:
     FontStyleAtlas(const FontStyleAtlas&) = delete;
     FontStyleAtlas& operator=(const FontStyleAtlas&) = delete;
 
-    /// Opens a font file instead of the open one. The texture of the last request stays.
-    /// @return ZO_SUCCESS, ZO_FREETYPE_FAILED or ZO_FONT_FACE_FAILED, with no face open then
+    /// Closes the open font file and opens another. Keeps the texture of the last request.
+    /// @return ZO_SUCCESS; or ZO_FREETYPE_FAILED or ZO_FONT_FACE_FAILED, with no face open
     int LoadFontByPath(const char* path);
 
     /// Builds texture and records for one request.
-    /// @param texture receives the texture's name, which stays the atlas's and valid until the next
-    ///     request; untouched on failure
+    /// @param texture receives the texture's name, valid until the next request; unchanged on
+    ///     failure. The atlas owns the texture
     /// @return ZO_SUCCESS; ZO_FONT_ATLAS_EMPTY, also while no face is open; or ZO_FAILURE
     int GetFontTexture(const tagTextInfo* info, unsigned int* texture);
 
@@ -45,14 +44,14 @@ public:
     /// @return ZO_SUCCESS or ZO_FAILURE
     int CreateStyleTex();
 
-    /// Renders every unit of the text into the bound texture and records it. Of a repeated unit,
+    /// Renders every unit of the text into the bound texture and records it. For a repeated unit,
     /// the last occurrence is recorded.
     void FontToTexture(const tagTextInfo* info);
 
     /// Records one glyph whose cell starts at (x, y) of the texture.
     void FontCharInfoToMap(FT_GlyphSlot glyph, int x, int y, unsigned long charCode);
 
-    /// Drops texture and records, if there is a texture.
+    /// Deletes the texture and clears the records, if there is a texture.
     void DeleteTexture();
 
     /// The records, by UTF-16 unit.

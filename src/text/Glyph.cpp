@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <stdexcept>
 
-// Distinct characters of a text that need no second allocation.
+// Texts with up to this many distinct characters need no second allocation.
 constexpr size_t usualText = 64;
 
-// The index slot of a code; 0 means that it has no entry. Adds the page if it is missing.
+// Returns the index slot of a code; 0 in it means no entry. Adds the page if it is missing.
 std::uint32_t* GlyphMap::Table::MakeIndex(unsigned long code) {
     const unsigned long number = code / pageSize;
     auto page = pages.find(number);
@@ -22,7 +22,7 @@ std::uint32_t* GlyphMap::Table::MakeIndex(unsigned long code) {
 }
 
 tagGlyphInfo& GlyphMap::operator[](unsigned long code) {
-    if (!table || table.use_count() > 1) { // copies keep what they read
+    if (!table || table.use_count() > 1) { // other copies keep the old table
         table = table ? std::make_shared<Table>(*table) : std::make_shared<Table>();
         table->entries.reserve(usualText);
     }
@@ -82,7 +82,7 @@ GlyphMap::const_iterator GlyphMap::const_iterator::operator++(int) {
     return before;
 }
 
-// The first glyph that is not before that slot.
+// Points to the first glyph at or after the slot.
 GlyphMap::const_iterator::const_iterator(const Table* fromTable, Page atPage, unsigned long atSlot)
     : table(fromTable), page(atPage), slot(atSlot) {
     for (; page != table->pages.end(); ++page, slot = 0) {

@@ -28,9 +28,9 @@ static_assert(sizeof(tagGlyphInfo) == 8 * sizeof(float));
 
 /// An ordered map from character code to glyph.
 ///
-/// A copy costs the same however many glyphs there are: copies share one table until one of them is
-/// written to. Looking up a UTF-16 unit takes a few instructions, whatever the font.
-/// Iterators are constant. They last until the next write, references until the next write or copy.
+/// Copying takes constant time: copies share one table until one of them is written to. Looking up
+/// a UTF-16 unit takes a few instructions, whatever the font. Iterators are constant and valid
+/// until the next write; references are valid until the next write or copy.
 class ZOGLES_API GlyphMap {
 public:
     using key_type = unsigned long;
@@ -41,7 +41,7 @@ public:
     class const_iterator;
     using iterator = const_iterator;
 
-    /// The glyph of a code, inserted all zero where there is none.
+    /// The glyph of a code. Inserts an all-zero record if the code is absent.
     tagGlyphInfo& operator[](unsigned long code);
 
     const_iterator find(unsigned long code) const;
@@ -56,12 +56,12 @@ public:
     bool empty() const { return size() == 0; }
     void clear() { table.reset(); }
 
-    /// What an inner loop needs to look up UTF-16 units; lasts until the map is written to or
+    /// A view for looking up UTF-16 units in an inner loop, valid until the map is written to or
     /// destroyed.
     struct Units;
     Units ReadUnits() const;
 
-    /// Whether both maps still read the same table, so that one look-up answers for both.
+    /// Whether both maps share one table, so that one look-up serves both.
     bool SharesTableWith(const GlyphMap& other) const { return table == other.table; }
 
 private:
@@ -71,9 +71,9 @@ private:
     struct __attribute__((visibility("hidden"))) Table {
         std::uint32_t* MakeIndex(unsigned long code);
 
-        /// In order of insertion. The first is all zero and stands for every absent code.
+        /// In order of insertion. Entry 0 is all zero and represents every absent code.
         std::vector<value_type> entries = std::vector<value_type>(1);
-        /// Page by page, the entry of each code. The first page is all zero and stands for every
+        /// Page by page, the entry of each code. The first page is all zero and represents every
         /// absent page.
         std::vector<std::uint32_t> indices = std::vector<std::uint32_t>(pageSize);
         std::map<unsigned long, std::uint32_t>
@@ -114,7 +114,7 @@ private:
 };
 
 struct GlyphMap::Units {
-    /// The glyph of a unit, all zero where there is none.
+    /// The glyph of a unit, or an all-zero record.
     const tagGlyphInfo& operator[](char16_t unit) const {
         return entries[indices[starts[unit / pageSize] + unit % pageSize]].second;
     }

@@ -18,7 +18,7 @@ bool HasFewerGrays(const FT_Bitmap& bitmap) {
     return bitmap.num_grays > 1 && bitmap.num_grays < 256;
 }
 
-// A pitch below the width means that the font states no pitch, and so has no padding.
+// A pitch below the width means that the font has no pitch, and so no padding.
 bool IsTightCoverage(const FT_Bitmap& bitmap) {
     const int width = static_cast<int>(bitmap.width);
     return !IsOtherMode(bitmap) && !HasFewerGrays(bitmap) &&
@@ -26,7 +26,7 @@ bool IsTightCoverage(const FT_Bitmap& bitmap) {
 }
 
 // Copies 8-bit rows, top row first (a negative pitch means that the buffer starts with the bottom
-// row), and stretches fewer grays than 256 to the whole range.
+// row), and scales fewer than 256 grays to the full range.
 std::vector<unsigned char> PackRows(const FT_Bitmap& bitmap) {
     const size_t width = bitmap.width;
     const size_t rows = bitmap.rows;
@@ -61,7 +61,7 @@ struct ConvertedBitmap {
 
 const unsigned char* TightCoverage(FT_GlyphSlot glyph, std::vector<unsigned char>& packed) {
     const FT_Bitmap& bitmap = glyph->bitmap;
-    // A bitmap font can state a size and no pixels.
+    // A bitmap font can have a size without pixels.
     if (bitmap.buffer == nullptr || IsTightCoverage(bitmap)) {
         return bitmap.buffer;
     }

@@ -7,7 +7,7 @@
 #include FT_FREETYPE_H
 #include <vector>
 
-/// The slot's bitmap as 8-bit coverage in rows without padding, whatever FreeType delivered.
+/// Returns the slot's bitmap as 8-bit coverage in rows without padding.
 /// @param packed holds the pixels if they had to be repacked
 /// @return the pixels, or null if there are none or they cannot be converted
 /// @throws std::bad_alloc

@@ -1,16 +1,16 @@
 /// @file
-/// Where glyphs go in an atlas.
+/// Places glyphs in an atlas.
 #ifndef ZOGLES_TEXT_GLYPHPACKER_H
 #define ZOGLES_TEXT_GLYPHPACKER_H
 
 #include <algorithm>
 
-/// Packs cells into rows, left to right, in the order in which they are fed. The pass that sizes an
-/// atlas and the one that fills it feed the same cells to a packer each, and so they agree.
+/// Packs cells into rows from left to right, in the order of the calls. The pass that sizes an
+/// atlas and the pass that fills it place the same cells, so they agree.
 ///
-/// Each cell is one pixel wider than its bitmap, so that the linear filter never mixes two glyphs
-/// side by side. A row is as tall as its tallest bitmap, and ends where the next cell would bring it
-/// to 1,024 pixels.
+/// Each cell is one pixel wider than its bitmap, so that the linear filter never mixes neighbouring
+/// glyphs. A row is as tall as its tallest bitmap. A cell that would make the row 1,024 pixels wide
+/// or wider starts a new row.
 class GlyphPacker {
 public:
     struct Position {

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Pen advances are 26.6 fixed point, of which 32 bits count.
+// Pen advances are 26.6 fixed point, in 32 bits.
 float WholePixels(FT_Pos advance) {
     return static_cast<float>(static_cast<std::uint32_t>(advance) >> 6);
 }

@@ -1,5 +1,5 @@
 /// @file
-/// The texture of an atlas and how glyphs get into it: what both atlases share.
+/// What both atlases share: creating the texture and filling it with glyphs.
 #ifndef ZOGLES_TEXT_GLYPHTEXTURE_H
 #define ZOGLES_TEXT_GLYPHTEXTURE_H
 
@@ -12,59 +12,58 @@
 #include <algorithm>
 #include <new>
 
-/// What tells one kind of atlas from the other.
+/// The differences between the two atlases.
 struct AtlasKind {
-    const char* tag; ///< for the log
-    GLenum unit;     ///< its texture unit; unit 0 is left to buffers and bitmaps
+    const char* tag; ///< log tag
+    GLenum unit;     ///< texture unit; buffers and bitmaps use unit 0
 
-    /// Up to this many pixels a side the driver is not asked whether it can make the texture.
+    /// The driver's limit is not queried for textures of up to this many pixels per side.
     unsigned int trustedSide;
 };
 
-/// Every driver makes textures of 64 pixels a side; a font is loaded seldom enough to ask for more.
+/// Every driver supports 64 pixels per side. A font is loaded rarely, so the query costs little.
 constexpr AtlasKind standardAtlas = {"FontAtlas", GL_TEXTURE1, 64};
 
-/// One is built for each draw, so the driver is asked only about what goes beyond the rows of an
-/// ordinary atlas.
+/// Built for each draw, so the limit is queried only for unusually large atlases.
 constexpr AtlasKind styledAtlas = {"FontStyleAtlas", GL_TEXTURE2, 1024};
 
-/// How large the driver can make a texture, asked for when first needed. A limit that it does not
-/// tell is taken as none.
+/// The driver's limit for texture sizes, queried on first use. If the driver reports no limit, any
+/// size fits.
 class TextureLimit {
 public:
     explicit TextureLimit(const AtlasKind& kind) : trusted(kind.trustedSide) {}
 
-    /// @param side the larger one of a texture or a glyph, in pixels
+    /// @param side the longer side of a texture or a glyph, in pixels
     bool Fits(unsigned int side) { return side <= trusted || side <= Largest(); }
 
-    /// Cuts a texture size down to what the driver can make.
+    /// Reduces a texture size to the limit.
     void Cut(unsigned int& width, unsigned int& height);
 
 private:
     unsigned int Largest();
 
     unsigned int trusted;
-    unsigned int largest = 0; ///< 0 until it is asked for
+    unsigned int largest = 0; ///< 0 until queried
 };
 
-/// Creates a texture of one coverage byte per texel, without defined content, and leaves it bound
-/// on the kind's unit. Logs when the driver has no name for it. Exhausted driver memory is not
-/// detected: asking for GL errors would take a client's pending ones.
+/// Creates a texture with one coverage byte per texel and undefined content, and leaves it bound on
+/// the kind's unit. Logs if the driver is out of names. Exhausted driver memory is not detected:
+/// querying GL errors would consume the client's pending ones.
 /// @return its name, or 0
 GLuint CreateGlyphTexture(const AtlasKind& kind, unsigned int width, unsigned int height);
 
 /// Writes the slot's bitmap into the bound texture.
-/// @return false when there are no pixels or they cannot be converted; nothing is written then
+/// @return false, with nothing written, if there are no pixels or they cannot be converted
 bool UploadGlyph(FT_GlyphSlot glyph, unsigned int x, unsigned int y);
 
-/// Deletes texture and records, if there is a texture, and makes the size 0.
+/// If there is a texture, deletes it, clears the records and sets the size to 0.
 void DropAtlas(GLuint& texture, unsigned int& width, unsigned int& height, GlyphMap& glyphs);
 
 /// The record of the slot's glyph in an atlas of `width` by `height` pixels, its cell at (x, y).
 tagGlyphInfo DescribeGlyph(FT_GlyphSlot glyph, int x, int y, unsigned int width,
                            unsigned int height);
 
-/// Logs a size without area.
+/// Logs an empty size.
 /// @return ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
 int CheckAtlasSize(const AtlasKind& kind, unsigned int width, unsigned int height);
 
@@ -72,7 +71,7 @@ int CheckAtlasSize(const AtlasKind& kind, unsigned int width, unsigned int heigh
 void ReportLeftOut(const AtlasKind& kind, unsigned int count);
 
 /// Sizes an atlas, or logs that it would be empty.
-/// @param visitGlyphs function of a function and the source: calls the function with each loaded
+/// @param visitGlyphs called with a function and the source; calls the function with each loaded
 ///     slot and its code
 /// @return ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
 template <typename VisitGlyphs, typename... Source>
@@ -123,9 +122,10 @@ void FillAtlas(const AtlasKind& kind, Atlas& atlas, VisitGlyphs visitGlyphs,
     ReportLeftOut(kind, leftOut);
 }
 
-/// Sizes, creates and fills an atlas, and unbinds its texture. Refused memory empties the atlas.
+/// Sizes, creates and fills an atlas, and unbinds its texture. If memory is exhausted, the atlas is
+/// emptied.
 /// @param create the atlas's operation that creates the texture
-/// @param source what the atlas is made of: a face or a text request
+/// @param source a face or a text request
 /// @return ZO_SUCCESS, ZO_FONT_ATLAS_EMPTY or ZO_FAILURE
 template <typename Atlas, typename Source>
 int BuildAtlas(const AtlasKind& kind, Atlas& atlas, int (Atlas::*create)(), Source source) {

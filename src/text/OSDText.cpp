@@ -33,7 +33,7 @@ void LogAbsent(char16_t unit) {
     __android_log_print(LogError, tag, "Char %lu is not exit\n", static_cast<unsigned long>(unit));
 }
 
-// Truncates toward zero; what does not fit 32 bits wraps, as unsigned sums do.
+// Truncates toward zero. Values beyond 32 bits wrap, as unsigned sums do.
 unsigned int TruncateToUnsigned(float value) {
     return static_cast<unsigned int>(static_cast<std::int64_t>(value));
 }
@@ -58,7 +58,7 @@ OSDText::OSDText(std::shared_ptr<FontAtlas> standard, std::shared_ptr<FontStyleA
       vertexBuffer(0), fontTexture(0), fontTexWidth(0), fontTexHeight(0), texLocation(0),
       coordLocation(0), colorLocation(0), scaleX(0.0f), scaleY(0.0f) {}
 
-// The members follow in reverse order: map, helper, styled atlas, standard atlas.
+// Members are destroyed in reverse order: map, helper, styled atlas, standard atlas.
 OSDText::~OSDText() {
     ReleaseRenderer({shaderProgram, program, vertexBuffer});
 }
@@ -162,14 +162,14 @@ int OSDText::TryGLDrawText(const char16_t* text, unsigned int length, float x, f
 }
 
 void OSDText::GLDrawText(const char16_t* text, unsigned int length, float x, float y) {
-    const std::uint64_t room = std::uint64_t{length} * Pen::verticesPerGlyph;
+    const std::uint64_t vertexCount = std::uint64_t{length} * Pen::verticesPerGlyph;
     Vertex onStack[unitsOnStack * Pen::verticesPerGlyph];
     std::unique_ptr<Vertex[]> onHeap;
-    if (room > SIZE_MAX / sizeof(Vertex)) {
+    if (vertexCount > SIZE_MAX / sizeof(Vertex)) {
         throw std::bad_alloc();
     }
     if (length > unitsOnStack) {
-        onHeap.reset(new Vertex[static_cast<size_t>(room)]);
+        onHeap.reset(new Vertex[static_cast<size_t>(vertexCount)]);
     }
     Vertex* const vertices = onHeap ? onHeap.get() : onStack;
 
@@ -187,8 +187,8 @@ void OSDText::GLDrawText(const char16_t* text, unsigned int length, float x, flo
     Vertex* const unused = glyphs.SharesTableWith(standardGlyphs)
                                ? DrawUnits(text, length, standard, pen, drawStandard)
                                : DrawUnits(text, length, standard, pen, drawStyled);
-    // The upload covers every unit. No bytes of the stack may reach the driver.
-    std::fill(unused, vertices + room, Vertex());
-    LoadVertices(vertices, static_cast<size_t>(room));
+    // The upload covers every unit, so clear the rest: no stack bytes may reach the driver.
+    std::fill(unused, vertices + vertexCount, Vertex());
+    LoadVertices(vertices, static_cast<size_t>(vertexCount));
     glDrawArrays(GL_TRIANGLES, 0, static_cast<GLsizei>(unused - vertices));
 }

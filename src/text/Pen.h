@@ -1,5 +1,5 @@
 /// @file
-/// The placing of glyphs: from pixels to the quads that GL draws.
+/// Places glyphs: converts their pixels to the quads that GL draws.
 #ifndef ZOGLES_TEXT_PEN_H
 #define ZOGLES_TEXT_PEN_H
 
@@ -14,13 +14,13 @@ inline bool IsOverhanging(const tagGlyphInfo& glyph) {
     return glyph.bitmapLeft < 0.0f && glyph.advanceX > 0.0f && glyph.advanceX < glyph.bitmapWidth;
 }
 
-/// Whether a glyph has a visible shape; an absent unit's has none, nor has a space's.
+/// Whether a glyph has a visible shape. Spaces and absent units have none.
 inline bool IsShown(const tagGlyphInfo& glyph) {
     return glyph.bitmapWidth * glyph.bitmapHeight > 0.0f;
 }
 
-/// Sets glyphs side by side. Each step computes x, y, s and t at once. Those that a step does not
-/// change are multiplied or divided by 1, or 0 is added.
+/// Places glyphs side by side. Each step computes x, y, s and t at once; components that a step
+/// does not change are multiplied or divided by 1, or have 0 added.
 class Pen {
 public:
     static constexpr size_t verticesPerGlyph = 6;
@@ -40,7 +40,7 @@ public:
     /// Where the vertices of the next glyph go.
     Vertex* Vertices() const { return vertices; }
 
-    /// Draws the units before the first that the font cannot show. With the standard atlas the loop
+    /// Draws the units up to the first that the font cannot show. With the standard atlas, the loop
     /// makes no call and runs in registers.
     /// @param standard decides which units the font can show
     /// @param find returns the glyph to draw for a unit
