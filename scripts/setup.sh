@@ -1,17 +1,21 @@
 # shellcheck shell=bash
-# Sourced by the other scripts, before they do anything. Given --help, it prints the script's opening
-# comment and ends. Otherwise it defines install_packages, which installs the Debian packages that
-# scripts/packages.txt lists; when all of them are there, it does nothing and needs no network.
+# The other scripts source this file before anything else. It stops the script at the first error and
+# changes to the project's folder; the caller's folder is in OLDPWD. Given --help, it prints the
+# script's opening comment and ends. Then it defines what several scripts need.
+set -euo pipefail
+
+script=$(realpath "$0")
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # Prints the opening comment of the script that runs.
 print_help() {
-    local folder name
-    folder="$(dirname "${BASH_SOURCE[0]}")"
-    name="$(basename "$0")"
-    if [ ! -f "$folder/$name" ]; then
-        folder="$folder/../.ci"
-    fi
-    sed -n '1d; /^#/!q; s/^# \{0,1\}//p' "$folder/$name"
+    sed -n '1d; /^#/!q; s/^# \{0,1\}//p' "$script"
+}
+
+# Ends a script that was called with wrong arguments.
+usage_error() {
+    print_help >&2
+    exit 2
 }
 
 case " $* " in
@@ -21,25 +25,65 @@ case " $* " in
     ;;
 esac
 
-# Prints the packages of the list's sections that are given and not installed, one a line.
+# quietly COMMAND...: prints the command's output only if it fails.
+quietly() {
+    local log status=0
+    log=$(mktemp)
+    "$@" >"$log" 2>&1 || status=$?
+    if [ "$status" -ne 0 ]; then
+        cat "$log" >&2
+        echo "failed: $*" >&2
+    fi
+    rm "$log"
+    return "$status"
+}
+
+# configure FOLDER PRESET [OPTION...]: configures a build without tests and examples, unless an option
+# asks for them.
+configure() {
+    quietly cmake --preset "$2" -B "$1" -DZOGLES_BUILD_TESTS=OFF -DZOGLES_BUILD_EXAMPLES=OFF "${@:3}"
+}
+
+# build_in FOLDER PRESET [OPTION...]: configures and builds everything there.
+build_in() {
+    echo "== Building in $1"
+    configure "$@"
+    cmake --build "$1"
+}
+
+# headless COMMAND...: runs it with the software driver on an X server that shows nothing.
+headless() {
+    LIBGL_ALWAYS_SOFTWARE=1 xvfb-run -a -s "-screen 0 1920x1080x24 -noreset" "$@"
+}
+
+# on_display COMMAND...: runs it on the user's display, or headless if there is none.
+on_display() {
+    if [ -n "${DISPLAY:-}" ]; then
+        "$@"
+    else
+        headless "$@"
+    fi
+}
+
+# need_display [ARGUMENT...]: if there is no display, runs the whole script headless with these
+# arguments instead, and ends.
+need_display() {
+    if [ -z "${DISPLAY:-}" ]; then
+        headless "$script" "$@"
+        exit
+    fi
+}
+
+# Prints the packages of the sections given that are not installed, one a line.
 missing_packages() {
-    local list package section=""
-    list="$(dirname "${BASH_SOURCE[0]}")/packages.txt"
-    while read -r package; do
-        if [[ "$package" =~ ^#\ ([a-z]+): ]]; then
-            section="${BASH_REMATCH[1]}"
-        fi
-        case "$package" in
-        '' | '#'*) continue ;;
-        esac
-        case " $* " in
-        *" $section "*) ;;
-        *) continue ;;
-        esac
+    local section package
+    for section in "$@"; do
+        sed -n "s/^$section: //p" scripts/packages.txt
+    done | tr ' ' '\n' | while read -r package; do
         if [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
-            printf '%s\n' "$package"
+            echo "$package"
         fi
-    done <"$list"
+    done
 }
 
 # Runs a command as root.
@@ -73,11 +117,12 @@ apt_get() {
     done
 }
 
-# Installs what is missing of the sections given, such as: install_packages build run
+# install_packages SECTION...: installs what is missing of these sections of scripts/packages.txt. If
+# nothing is missing, it needs no network.
 install_packages() {
     local missing
     if ! command -v dpkg-query >/dev/null; then
-        echo "no dpkg here: install what scripts/packages.txt lists by your system's own means" >&2
+        echo "no dpkg here: install the packages of scripts/packages.txt with your system's tools" >&2
         return 0
     fi
     mapfile -t missing < <(missing_packages "$@")
