@@ -20,6 +20,7 @@ protected:
     void SetUpAndBind() {
         ASSERT_EQ(manager.CreateWindowSurface(window.Native()), ZO_SUCCESS);
         ASSERT_EQ(manager.MakeCurrent(), ZO_SUCCESS);
+        ReadWindowSize();
         harness::TakeLog();
     }
 
@@ -63,6 +64,7 @@ TEST_F(EGLManagerGLTest, SetsUpInOrderAndLogsTheDriver) {
                      Call("eglQuerySurface", data, data, 0x3057, data),
                      Call("eglQuerySurface", data, data, 0x3056, data), Call("glGetString", 0x1F02),
                      Call("glGetString", 0x1F00), Call("glGetString", 0x1F01)}));
+    ReadWindowSize();
     const Log log = harness::TakeLog();
     EGLint major = 0;
     EGLint minor = 0;

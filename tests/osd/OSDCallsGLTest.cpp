@@ -108,7 +108,7 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
                                Call("glGenTextures", 1, data)};
     const Calls deleteTexture = {Call("glDeleteTextures", 1, data)};
     const Calls disableBlending = {Call("glDisable", GL_BLEND)};
-    const auto clearAndBlend = [](GLuint program) {
+    const auto clearAndBlend = [this](GLuint program) {
         return BindTarget(0, windowWidth, windowHeight) +
                Calls{Call("glClearColor", 0, 0, 0, 0),
                      Call("glClear", GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT),
@@ -158,18 +158,14 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
          {-h, -h, s0, t1, h, -h, s1, t1, -h, h, s0, t0, h, h, s1, t0},
          GL_TEXTURE0},
         {"presentation",
-         [&] {
-             Display(target, rect, {40, 30, 80, 60});
-         },
+         [&] { Display(target, rect, WholeWindow()); },
          Calls{Fill(targetSize), Fill(rectSize), Fill(rectSize)} + clearAndBlend(frame.program) +
              DrawQuad(frame, BindTexture(Target(target).texture)) + disableBlending +
              Unfeed(frame.coordLocation) + unbindTexture,
-         {-h, -h, q, q, h, -h, 0.75f, q, -h, h, q, 0.75f, h, h, 0.75f, 0.75f},
+         {-1, -1, q, q, 1, -1, 0.75f, q, -1, 1, q, 0.75f, 1, 1, 0.75f, 0.75f},
          GL_TEXTURE0},
         {"bitmap",
-         [&] {
-             Display(image, {40, 30, 80, 60});
-         },
+         [&] { Display(image, WholeWindow()); },
          Calls{Fill(sizeof(tagBitmapInfo))} + makeTexture +
              Calls{bindNew,
                    Call("glTexImage2D", GL_TEXTURE_2D, 0, GL_RGBA, 3, 5, 0, GL_RGBA,
@@ -178,7 +174,7 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
              SetParameters() + unbindTexture + clearAndBlend(bitmap.program) +
              DrawQuad(bitmap, bindNew) + Unfeed(bitmap.coordLocation) + disableBlending +
              unbindTexture + deleteTexture,
-         {-h, h, 0, 0, h, h, 1, 0, -h, -h, 0, 1, h, -h, 1, 1},
+         {-1, 1, 0, 0, 1, 1, 1, 0, -1, -1, 0, 1, 1, -1, 1, 1},
          GL_TEXTURE0},
     };
     const std::string live = harness::DescribeLive();

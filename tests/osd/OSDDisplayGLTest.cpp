@@ -10,26 +10,30 @@ const Image translucent = Noise(61, 47);
 const Image opaque = Noise(31, 17, true);
 const Image square = {2, 2, {{255, 0, 0, 255}, {0, 255, 0, 255}, {0, 0, 255, 255}, {9, 9, 9, 255}}};
 
-const struct {
-    const char* name;
-    const Image& image;
-    tagZoRectInfo from;
-    tagZoRectInfo to;
-} presentations[] = {
-    {"translucent", translucent, WholeOf(translucent), {20, 30, 61, 47}},
-    {"past the window's corner", translucent, WholeOf(translucent), {130, 100, 61, 47}},
-    {"over the whole window", opaque, WholeOf(opaque), {0, 0, 160, 120}},
-    {"stretched", square, WholeOf(square), {10, 20, 64, 64}},
-    {"to no pixels", opaque, WholeOf(opaque), {20, 20, 0, 10}},
-    {"a part", translucent, {10, 20, 30, 25}, {0, 0, 30, 25}},
-    {"past the buffer's corner", translucent, {50, 40, 40, 40}, {90, 70, 40, 40}},
-    {"a part at half its size", opaque, {1, 3, 30, 14}, {100, 5, 15, 7}},
-};
-
 } // namespace
 
 TEST_F(OSDDisplayGLTest, ReplacesTheWholeWindowByBlendedPixels) {
     Bind();
+    const unsigned int right = WholeWindow().width;
+    const unsigned int bottom = WholeWindow().height;
+    const struct {
+        const char* name;
+        const Image& image;
+        tagZoRectInfo from;
+        tagZoRectInfo to;
+    } presentations[] = {
+        {"translucent", translucent, WholeOf(translucent), {20, 30, 61, 47}},
+        {"past the window's corner",
+         translucent,
+         WholeOf(translucent),
+         {right - 30, bottom - 20, 61, 47}},
+        {"over the whole window", opaque, WholeOf(opaque), WholeWindow()},
+        {"stretched", square, WholeOf(square), {10, 20, 64, 64}},
+        {"to no pixels", opaque, WholeOf(opaque), {20, 20, 0, 10}},
+        {"a part", translucent, {10, 20, 30, 25}, {0, 0, 30, 25}},
+        {"past the buffer's corner", translucent, {50, 40, 40, 40}, {90, 70, 40, 40}},
+        {"a part at half its size", opaque, {1, 3, 30, 14}, {100, 5, 15, 7}},
+    };
     for (const auto& [name, image, from, to] : presentations) {
         SCOPED_TRACE(name);
         // Drivers round blended and filtered levels in their own ways.
@@ -59,8 +63,8 @@ TEST_F(OSDDisplayGLTest, ReplacesTheWholeWindowByBlendedPixels) {
 TEST_F(OSDDisplayGLTest, ShowsTheLastPresentationOnTheScreen) {
     Bind();
     const unsigned int buffer = CreateBuffer(translucent);
-    Display(square, {0, 0, 160, 120});
-    Display(buffer, WholeOf(translucent), {0, 0, 160, 120});
+    Display(square, WholeWindow());
+    Display(buffer, WholeOf(translucent), WholeWindow());
     const tagZoRectInfo to = {70, 20, 61, 47};
     Display(buffer, WholeOf(translucent), to);
     EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_SUCCESS);

@@ -33,11 +33,14 @@ protected:
     using SurfaceFixture::CreateBuffer;
     unsigned int CreateBuffer(const Image& image);
 
+    tagZoRectInfo WholeWindow() const {
+        return {0, 0, static_cast<unsigned int>(windowWidth),
+                static_cast<unsigned int>(windowHeight)};
+    }
+
     Image ReadWindow() { return ReadPixels(windowWidth, windowHeight); }
 
-    void FillWindow(const tagZoColorRGBA& color) {
-        Draw(ZO_WINDOW_HANDLE, {0, 0, windowWidth, windowHeight}, color);
-    }
+    void FillWindow(const tagZoColorRGBA& color) { Draw(ZO_WINDOW_HANDLE, WholeWindow(), color); }
 
     void Draw(unsigned int buffer, const tagZoRectInfo& rect, const tagZoColorRGBA& color) {
         EXPECT_EQ(surface->ZoDrawRect(buffer, &rect, &color), ZO_SUCCESS);

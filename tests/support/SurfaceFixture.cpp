@@ -87,7 +87,16 @@ void SurfaceFixture::TearDown() {
 
 void SurfaceFixture::Bind() {
     ASSERT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_SUCCESS);
+    ReadWindowSize();
     harness::TakeLog();
+}
+
+void SurfaceFixture::ReadWindowSize() {
+    const harness::Outside outside;
+    const EGLDisplay display = eglGetCurrentDisplay();
+    const EGLSurface current = eglGetCurrentSurface(EGL_DRAW);
+    eglQuerySurface(display, current, EGL_WIDTH, &windowWidth);
+    eglQuerySurface(display, current, EGL_HEIGHT, &windowHeight);
 }
 
 unsigned int SurfaceFixture::CreateBuffer(unsigned int width, unsigned int height) {

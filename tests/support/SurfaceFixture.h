@@ -41,14 +41,14 @@ private:
 /// After every test: no GL error, and once the surface is destroyed no live object.
 class SurfaceFixture : public ::testing::Test {
 protected:
-    static constexpr int windowWidth = 160;
-    static constexpr int windowHeight = 120;
-
     void SetUp() override;
     void TearDown() override;
 
     /// Binds the surface to the window and forgets what that logged.
     void Bind();
+
+    /// Asks EGL for the size of the window that is bound.
+    void ReadWindowSize();
 
     /// Creates an off-screen buffer; fails the test if it can't.
     unsigned int CreateBuffer(unsigned int width, unsigned int height);
@@ -65,6 +65,10 @@ protected:
     /// Checks the GL state that every drawing operation leaves behind.
     void ExpectStateAfterDraw(GLenum activeTexture);
 
+    /// The window's size: what the tests ask for and, once the surface is bound, what EGL says.
+    /// Devices may give every window the size of the screen.
+    int windowWidth = 160;
+    int windowHeight = 120;
     TestWindow window{windowWidth, windowHeight};
     std::unique_ptr<ZoGLDrawSurface> surface;
 };
