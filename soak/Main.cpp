@@ -32,8 +32,8 @@ Sample TakeSample(Stage stage, double seconds, const Counts& counts) {
 }
 
 // Half of the time bound, where only what piles up within one context can grow; then with losses.
-// The driver is kept loaded, because each of its unloadings leaks (see README.md), by which a leak
-// of the library would be hidden.
+// Keeps the driver loaded: unloading it leaks (see docs/reliability.md), which would hide a leak of
+// the library.
 bool Soak(double seconds, const std::string& folder) {
     Report report(folder);
     Windows windows;

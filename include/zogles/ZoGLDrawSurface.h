@@ -230,11 +230,12 @@ public:
     ///     is bound
     int ZoRefreshOnSrceen() const;
 
-    /// Returns the window's width in pixels as of the last binding, or 1920 before the first one.
-    /// Bind again after a resize.
+    /// The window's width as of the last binding. Bind again after a resize.
+    /// @return pixels; 1920 before the first binding
     unsigned int ZoGetWindowWidth() const;
 
-    /// Returns the window's height in pixels as of the last binding, or 1080 before the first one.
+    /// The window's height as of the last binding.
+    /// @return pixels; 1080 before the first binding
     unsigned int ZoGetWindowHeight() const;
 
     /// Creates an off-screen buffer and clears it to transparent black. A surface has up to 15

@@ -1,6 +1,6 @@
 // Prints a script with what the page says of result codes and operations, as the library's own header
 // and guide have it:
-//   node describe.mjs ZoGLDrawSurface.h result-codes.md >library.js
+//   node describe.mjs ZoGLDrawSurface.h when-something-fails.md >library.js
 import { readFileSync } from 'node:fs';
 
 const [header, guide] = process.argv.slice(2).map((path) => readFileSync(path, 'utf8'));
