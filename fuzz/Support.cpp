@@ -1,7 +1,7 @@
 #include "Support.h"
 
 #include "support/Harness.h"
-#include "text/FakeFont.h"
+#include "support/FakeFont.h"
 
 #include <X11/Xlib.h>
 #include <cstdint>

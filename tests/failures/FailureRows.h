@@ -4,7 +4,7 @@
 #define ZOGLES_TESTS_FAILURES_FAILUREROWS_H
 
 #include "../surface/LifecycleFixture.h"
-#include "../text/FakeFont.h"
+#include "support/FakeFont.h"
 
 class ConditionGLTest;
 using Step = std::function<void(ConditionGLTest&)>;

@@ -1,13 +1,10 @@
+#include "support/Calls.h"
 #include "support/SurfaceFixture.h"
 
 #include <gmock/gmock.h>
 
-using harness::Call;
-using Calls = std::vector<std::string>;
-
 namespace {
 
-constexpr char data[] = "data";
 constexpr char vert[] = "attribute vec4 position;\n"
                         "attribute vec4 idle;\n"
                         "void main() { gl_Position = position; }\n";
@@ -34,7 +31,7 @@ Log Lines(const std::string& text) {
     return {{6, "ShaderProgram", text}};
 }
 
-// The precision block, whose lines are all filled up to one width but the first.
+// The precision block. Its lines after the first have one width.
 std::string PrecisionBlock() {
     return "#ifdef GL_FRAGMENT_PRECISION_HIGH\n"
            "precision highp float;" +
@@ -72,7 +69,7 @@ TEST_F(ShaderProgramGLTest, BuildsAProgramBehindTheCommonHeader) {
     EXPECT_EQ(harness::Record([&] { program.ReleaseProgram(0); }), Calls());
 }
 
-TEST_F(ShaderProgramGLTest, LeavesNothingOfSourcesThatDoNotBuild) {
+TEST_F(ShaderProgramGLTest, DeletesWhatDoesNotBuild) {
     const std::string compileLog = "Could not compile shader [0-9]+:\n(.|\n)+\n";
     const std::tuple<const char*, const char*, std::string> cases[] = {
         {broken, frag, compileLog},
@@ -86,7 +83,7 @@ TEST_F(ShaderProgramGLTest, LeavesNothingOfSourcesThatDoNotBuild) {
         EXPECT_THAT(log[0].text, testing::MatchesRegex(text));
         EXPECT_EQ(harness::DescribeLive(), live);
     }
-    harness::FailCall("glGetShaderiv", 2); // the length of the log stays untold
+    harness::FailCall("glGetShaderiv", 2); // the length of the log
     EXPECT_EQ(program.CreateProgram(broken, frag), 0U);
     EXPECT_THAT(harness::TakeLog()[0].text,
                 testing::MatchesRegex("Could not compile shader [0-9]+:\n\n"));
@@ -120,12 +117,12 @@ TEST_F(ShaderProgramGLTest, PrintsTheDriversLog) {
     }
 }
 
-TEST_F(ShaderProgramGLTest, FindsWhatTheProgramUses) {
+TEST_F(ShaderProgramGLTest, FindsUsedVariables) {
     const unsigned int name = program.CreateProgram(vert, frag);
     EXPECT_EQ(program.GetAttribLocation(name, "position"), glGetAttribLocation(name, "position"));
     EXPECT_EQ(program.GetUniformLocation(name, "color"), glGetUniformLocation(name, "color"));
     EXPECT_EQ(harness::TakeLog(), Log());
-    for (const char* missing : {"idle", "unheardOf"}) { // declared but removed; never declared
+    for (const char* missing : {"idle", "unheardOf"}) { // removed as unused; never declared
         EXPECT_EQ(program.GetAttribLocation(name, missing), -1);
         EXPECT_EQ(harness::TakeLog(),
                   Lines(std::string("Could not bind attribute ") + missing + "\n"));

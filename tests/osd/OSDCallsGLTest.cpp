@@ -1,64 +1,23 @@
 // The calls that the drawing operations make, the vertices they upload and the state they leave.
 
 #include "OSDFixture.h"
+#include "support/Calls.h"
 
 #include <algorithm>
 #include <cstring>
 
-using harness::Call;
-
 namespace {
 
-using Calls = std::vector<std::string>;
 using Floats = std::vector<float>;
 
-const void* const data = &data;
 const Image image = Noise(3, 5);
 constexpr tagZoRectInfo rect = {16, 8, 32, 16};
 
-std::string Fill(size_t size) {
-    return Call("memset_s", data, size, 0, size);
-}
-
-std::string BindTexture(GLuint texture) {
-    return Call("glBindTexture", GL_TEXTURE_2D, texture);
-}
-
-Calls BindTarget(GLuint framebuffer, int width, int height) {
-    return {Call("glBindFramebuffer", GL_FRAMEBUFFER, framebuffer),
-            Call("glViewport", 0, 0, width, height)};
-}
-
-Calls Feed(GLint location, GLuint buffer, int bytes) {
-    return {Call("glEnableVertexAttribArray", location),
-            Call("glBindBuffer", GL_ARRAY_BUFFER, buffer),
-            Call("glVertexAttribPointer", location, 4, GL_FLOAT, GL_FALSE, 0,
-                 static_cast<const void*>(nullptr)),
-            Call("glBufferData", GL_ARRAY_BUFFER, bytes, data, GL_DYNAMIC_DRAW)};
-}
-
-Calls Unfeed(GLint location) {
-    return {Call("glBindBuffer", GL_ARRAY_BUFFER, 0), Call("glDisableVertexAttribArray", location)};
-}
-
-Calls operator+(Calls first, const Calls& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
 template <typename Renderer>
 Calls DrawQuad(const Renderer& renderer, const std::string& bindTexture) {
-    return Calls{Call("glActiveTexture", GL_TEXTURE0), bindTexture,
-                 Call("glUniform1i", renderer.texLocation, 0)} +
-           Feed(renderer.coordLocation, renderer.vertexBuffer, 64) +
+    return Sample(GL_TEXTURE0, bindTexture, renderer.texLocation) +
+           FeedVertices(renderer.coordLocation, renderer.vertexBuffer, 64) +
            Calls{Call("glDrawElements", GL_TRIANGLES, 6, GL_UNSIGNED_SHORT, data)};
-}
-
-Calls SetParameters() {
-    return {Call("glTexParameteri", GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR),
-            Call("glTexParameteri", GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR),
-            Call("glTexParameteri", GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE),
-            Call("glTexParameteri", GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE)};
 }
 
 // The driver chooses the name of a texture that an operation makes.
@@ -100,10 +59,10 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
     const OSDFrame& frame = *surface->osdFrame;
     const OSDBitmap& bitmap = *surface->osdBitmap;
     const Calls bind = BindTarget(Target(target).framebuffer, 64, 32);
-    const Calls unbind = {Call("glBindFramebuffer", GL_FRAMEBUFFER, 0)};
+    const Calls unbind = {BindFramebuffer(0)};
     const Calls unbindTexture = {BindTexture(0)};
     const Calls blitStart = bind + Calls{Call("glUseProgram", blitter.program)};
-    const Calls blitEnd = Unfeed(blitter.coordLocation) + unbindTexture + unbind;
+    const Calls blitEnd = UnbindVertices(blitter.coordLocation) + unbindTexture + unbind;
     const Calls makeTexture = {Call("glActiveTexture", GL_TEXTURE0),
                                Call("glGenTextures", 1, data)};
     const Calls deleteTexture = {Call("glDeleteTextures", 1, data)};
@@ -112,12 +71,12 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
         return BindTarget(0, windowWidth, windowHeight) +
                Calls{Call("glClearColor", 0, 0, 0, 0),
                      Call("glClear", GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT),
-                     Call("glUseProgram", program), Call("glEnable", GL_BLEND),
-                     Call("glBlendFunc", GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA)};
+                     Call("glUseProgram", program)} +
+               EnableBlending();
     };
     constexpr float h = 0.5f;
     constexpr float q = 0.25f;
-    constexpr float s0 = 1 / 34.0f; // within the 34 by 18 pixels that a blit sets aside
+    constexpr float s0 = 1 / 34.0f; // within the copy of 34 by 18 pixels
     constexpr float s1 = s0 + 32 / 34.0f;
     constexpr float t0 = 17 / 18.0f;
     constexpr float t1 = t0 - 16 / 18.0f;
@@ -132,26 +91,26 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
          [&] {
              Draw(target, rect, {255, 128, 2, 1});
          },
-         Calls{Fill(targetSize), Fill(rectSize), Fill(sizeof(tagColorRGBA))} + bind +
+         Calls{Zero(targetSize), Zero(rectSize), Zero(sizeof(tagColorRGBA))} + bind +
              Calls{Call("glUseProgram", filler.program),
                    Call("glUniform4fv", filler.colorLocation, 1, 1.0f, 128 / 255.0f, 2 / 255.0f,
                         1.0f)} +
-             Feed(filler.positionLocation, filler.vertexBuffer, 96) +
-             Calls{Call("glDrawArrays", GL_TRIANGLES, 0, 6)} + Unfeed(filler.positionLocation) +
-             unbind,
+             FeedVertices(filler.positionLocation, filler.vertexBuffer, 96) +
+             Calls{Call("glDrawArrays", GL_TRIANGLES, 0, 6)} +
+             UnbindVertices(filler.positionLocation) + unbind,
          {-h, h, 0, 1, h, h, 0, 1, -h, -h, 0, 1, h, -h, 0, 1, -h, -h, 0, 1, h, h, 0, 1},
          GL_TEXTURE2},
         {"blit",
          [&] { Blit(source, target, rect, rect); },
-         Calls(2, Fill(targetSize)) + blitStart +
+         Calls(2, Zero(targetSize)) + blitStart +
              DrawQuad(blitter, BindTexture(Target(source).texture)) + blitEnd,
          {-h, -h, 0.125f, 0.625f, h, -h, 0.375f, 0.625f, //
           -h, h, 0.125f, 0.875f, h, h, 0.375f, 0.875f},
          GL_TEXTURE0},
-        // The region and a pixel all around it are set aside.
+        // Copies the region and a pixel around it.
         {"blit within one buffer",
          [&] { Blit(target, target, rect, rect); },
-         Calls(2, Fill(targetSize)) + makeTexture +
+         Calls(2, Zero(targetSize)) + makeTexture +
              Calls{bind[0], bindNew,
                    Call("glCopyTexImage2D", GL_TEXTURE_2D, 0, GL_RGBA, 15, 7, 34, 18, 0)} +
              SetParameters() + blitStart + DrawQuad(blitter, bindNew) + blitEnd + deleteTexture,
@@ -159,20 +118,20 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
          GL_TEXTURE0},
         {"presentation",
          [&] { Display(target, rect, WholeWindow()); },
-         Calls{Fill(targetSize), Fill(rectSize), Fill(rectSize)} + clearAndBlend(frame.program) +
+         Calls{Zero(targetSize), Zero(rectSize), Zero(rectSize)} + clearAndBlend(frame.program) +
              DrawQuad(frame, BindTexture(Target(target).texture)) + disableBlending +
-             Unfeed(frame.coordLocation) + unbindTexture,
+             UnbindVertices(frame.coordLocation) + unbindTexture,
          {-1, -1, q, q, 1, -1, 0.75f, q, -1, 1, q, 0.75f, 1, 1, 0.75f, 0.75f},
          GL_TEXTURE0},
         {"bitmap",
          [&] { Display(image, WholeWindow()); },
-         Calls{Fill(sizeof(tagBitmapInfo))} + makeTexture +
+         Calls{Zero(sizeof(tagBitmapInfo))} + makeTexture +
              Calls{bindNew,
                    Call("glTexImage2D", GL_TEXTURE_2D, 0, GL_RGBA, 3, 5, 0, GL_RGBA,
                         GL_UNSIGNED_BYTE, data),
                    Call("glPixelStorei", GL_UNPACK_ALIGNMENT, 4)} +
              SetParameters() + unbindTexture + clearAndBlend(bitmap.program) +
-             DrawQuad(bitmap, bindNew) + Unfeed(bitmap.coordLocation) + disableBlending +
+             DrawQuad(bitmap, bindNew) + UnbindVertices(bitmap.coordLocation) + disableBlending +
              unbindTexture + deleteTexture,
          {-1, 1, 0, 0, 1, 1, 1, 0, -1, -1, 0, 1, 1, -1, 1, 1},
          GL_TEXTURE0},

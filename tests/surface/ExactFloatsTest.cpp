@@ -1,5 +1,5 @@
-// The same pixels on every machine need the same floats, to the last bit. Inputs are integers and bit
-// patterns, so that the test itself computes no float.
+// The same pixels on every machine need the same floats, to the last bit. The inputs are integers and
+// fractions of a power of two, so that the test itself rounds nothing.
 
 #include "osd/OSDBitmap.h"
 #include "osd/OSDBlit.h"
@@ -7,6 +7,7 @@
 #include "support/Harness.h"
 #include "text/OSDText.h"
 
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <gtest/gtest.h>
@@ -19,20 +20,13 @@ constexpr unsigned int asciiCount = 128;
 struct ExactFloatsTest : ::testing::Test {
     ExactFloatsTest() { harness::Reset(); }
 
-    /// FNV-1a over 32-bit words, lowest byte first.
+    /// FNV-1a over 32-bit words.
     void AddToHash(const void* words, size_t size) {
-        const unsigned char* bytes = static_cast<const unsigned char*>(words);
         for (size_t i = 0; i < size; i += sizeof(std::uint32_t)) {
             std::uint32_t word = 0;
-            memcpy(&word, bytes + i, sizeof(word));
-            for (int shift = 0; shift < 32; shift += 8) {
-                hash = (hash ^ (word >> shift & 0xFF)) * 0x100000001B3U;
-            }
+            memcpy(&word, static_cast<const unsigned char*>(words) + i, sizeof(word));
+            hash = (hash ^ word) * 0x100000001B3U;
         }
-    }
-    template <typename Record>
-    void AddToHash(const Record& record) {
-        AddToHash(&record, sizeof(record));
     }
     void AddUploadToHash() {
         ASSERT_FALSE(harness::Current().bufferData.empty());
@@ -42,35 +36,24 @@ struct ExactFloatsTest : ::testing::Test {
 
     unsigned int Below(unsigned int end) { return static_cast<unsigned int>(random() % end); }
 
-    /// 0 to 32 bits, each length equally often.
+    /// Up to 32 bits, and small numbers as often as large ones.
     unsigned int Number() {
-        const unsigned int bits = Below(33);
-        return bits == 0 ? 0 : static_cast<unsigned int>(random() >> (32 - bits));
+        return static_cast<unsigned int>(std::uint64_t{random()} >> Below(33));
     }
+    unsigned char Byte() { return static_cast<unsigned char>(Below(256)); }
 
-    /// Any float from 0.5 to 2 to the power of `exponents` - 1.
-    float Positive(unsigned int exponents) {
-        const std::uint32_t exponent = 126 + Below(exponents);
-        return FromBits(exponent << 23 | Below(1U << 23));
+    /// Up to 24 bits and a sign.
+    float Fraction(float divisor) {
+        return static_cast<float>(static_cast<int>(random() >> 7) - (1 << 24)) / divisor;
     }
-    float Signed(unsigned int exponents) {
-        const float value = Positive(exponents);
-        return Below(2) == 0 ? value : -value;
-    }
-    static float FromBits(std::uint32_t bits) {
-        float value = 0;
-        memcpy(&value, &bits, sizeof(value));
-        return value;
-    }
-
-    void HashConversionsAndQuads();
-    void HashText();
 
     std::mt19937 random{1};
     std::uint64_t hash = 0xCBF29CE484222325U;
 };
 
-void ExactFloatsTest::HashConversionsAndQuads() {
+} // namespace
+
+TEST_F(ExactFloatsTest, ConvertsAndUploadsTheSameOnEveryMachine) {
     const ZoGLDrawSurface surface;
     const OSDRect osdRect;
     const OSDBlit osdBlit;
@@ -78,44 +61,44 @@ void ExactFloatsTest::HashConversionsAndQuads() {
     const tagFrameBuffObject target = {};
     for (int i = 0; i < 40000; ++i) {
         const tagZoRectInfo rect = {Number(), Number(), Number(), Number()};
-        const unsigned int width = Number(); // may be 0, and then the results keep their values
+        const unsigned int width = Number(); // 0 leaves the results as they are
         const unsigned int height = Number();
-        tagRectInfo vertexRect = {1, 2, 3, 4};
-        surface.ScreenCoordToVCoord(&rect, &vertexRect, width, height);
-        AddToHash(vertexRect);
-        tagRectInfo textureRect = {5, 6, 7, 8};
-        surface.ScreenCoordToFboCoord(&rect, &textureRect, width, height);
-        AddToHash(textureRect);
+        tagRectInfo rects[] = {{1, 2, 3, 4}, {5, 6, 7, 8}};
+        surface.ScreenCoordToVCoord(&rect, &rects[0], width, height);
+        surface.ScreenCoordToFboCoord(&rect, &rects[1], width, height);
+        AddToHash(rects, sizeof(rects));
 
-        tagZoColorRGBA bytes = {};
-        for (unsigned char* byte : {&bytes.r, &bytes.g, &bytes.b, &bytes.a}) {
-            *byte = static_cast<unsigned char>(Below(256));
-        }
+        const tagZoColorRGBA bytes = {Byte(), Byte(), Byte(), Byte()};
         tagColorRGBA color = {};
         surface.ConvertGLColor(&bytes, &color);
-        AddToHash(color);
+        AddToHash(&color, sizeof(color));
 
         if (i % 10 == 0) {
-            osdRect.DrawRect(&target, &vertexRect, &color);
+            osdRect.DrawRect(&target, &rects[0], &color);
             AddUploadToHash();
-            osdBlit.BlitByDrawing(&textureRect, &vertexRect);
+            osdBlit.BlitByDrawing(&rects[1], &rects[0]);
             AddUploadToHash();
-            osdBitmap.RenderBimap(&vertexRect);
+            osdBitmap.RenderBimap(&rects[0]);
             AddUploadToHash();
         }
     }
+    EXPECT_EQ(hash, 0x7871260A87A7BDD1U);
 }
 
-void ExactFloatsTest::HashText() {
+TEST_F(ExactFloatsTest, MeasuresAndPlacesTextTheSameOnEveryMachine) {
     const auto atlas = std::make_shared<FontAtlas>();
     atlas->width = 1023;
     atlas->height = 517;
     for (unsigned int code = 0; code < asciiCount; ++code) {
-        const bool isEmpty = Below(16) == 0;
-        // Widths of up to 2^20 give sums that floats must round.
-        atlas->glyphs[code] = {Positive(21), Signed(7),  isEmpty ? 0 : Positive(21),
-                               Positive(7),  Signed(7),  Signed(7),
-                               Positive(1),  Positive(1)};
+        // Advances and widths of up to 2^20 give sums that floats must round.
+        atlas->glyphs[code] = {std::abs(Fraction(16)),
+                               Fraction(1 << 17),
+                               Below(16) == 0 ? 0 : std::abs(Fraction(16)),
+                               std::abs(Fraction(1 << 17)),
+                               Fraction(1 << 17),
+                               Fraction(1 << 17),
+                               std::abs(Fraction(1 << 24)),
+                               std::abs(Fraction(1 << 24))};
     }
     OSDText osdText(atlas, std::make_shared<FontStyleAtlas>());
     for (int i = 0; i < 200; ++i) {
@@ -129,23 +112,15 @@ void ExactFloatsTest::HashText() {
         info.fontSize = 40;
         unsigned int size[2] = {};
         osdText.GetTextSize(&info, &size[0], &size[1]);
-        AddToHash(size);
+        AddToHash(size, sizeof(size));
 
         const int width = 1 + static_cast<int>(Below(4096));
         const int height = 1 + static_cast<int>(Below(4096));
         const tagFrameBuffObject target = {0, 0, 0, width, height};
         ASSERT_EQ(osdText.GetFontTex(&target, &info), ZO_SUCCESS);
-        const float x = Signed(1);
-        const float y = Signed(1);
-        osdText.RenderText(info.text, info.length, x, y);
+        const float x = Fraction(1 << 24);
+        osdText.RenderText(info.text, info.length, x, Fraction(1 << 24));
         AddUploadToHash();
     }
-}
-
-} // namespace
-
-TEST_F(ExactFloatsTest, ComputesTheSameFloatsOnEveryMachine) {
-    HashConversionsAndQuads();
-    HashText();
-    EXPECT_EQ(hash, 0xE991124865A3108DU);
+    EXPECT_EQ(hash, 0xAABBA0E40D9E3C05U);
 }

@@ -2,13 +2,8 @@
 
 void LifecycleFixture::SetUp() {
     SurfaceFixture::SetUp();
-    harness::State& state = harness::Current();
-    state.fontFile = ZOGLES_TEST_FONT;
-    state.firstChar = [](FT_Face face, FT_UInt* index) -> FT_ULong {
-        *index = FT_Get_Char_Index(face, 'A');
-        return 'A';
-    };
-    state.nextChar = [](FT_Face, FT_ULong, FT_UInt* index) -> FT_ULong { return *index = 0; };
+    harness::Current().fontFile = ZOGLES_TEST_FONT;
+    UseCharacters({'A'});
 }
 
 std::string LifecycleFixture::Components() const {

@@ -1,13 +1,13 @@
 /// @file
-/// A surface whose default font is there, and small.
+/// A surface whose default font exists and is small.
 #ifndef ZOGLES_TESTS_SURFACE_LIFECYCLEFIXTURE_H
 #define ZOGLES_TESTS_SURFACE_LIFECYCLEFIXTURE_H
 
+#include "support/Calls.h"
+#include "support/FakeFont.h"
 #include "support/SurfaceFixture.h"
 
 #include <algorithm>
-
-using Calls = std::vector<std::string>;
 
 constexpr unsigned int allComponents = 0x3F;
 
@@ -18,13 +18,13 @@ protected:
     /// The components that exist: "text blit bitmap frame rect pool ".
     std::string Components() const;
 
-    /// That nothing of a binding is left.
+    /// Expects that everything of a binding is released.
     void ExpectUnbound() const;
 
     /// Fills a target as `Filled` says.
     void Fill(unsigned int handle);
 
-    /// Binds, unless bound already, draws into a new buffer, looks at it and destroys it.
+    /// Binds, unless bound already, draws into a new buffer, reads it back and destroys it.
     void ExpectUsable();
 };
 

@@ -1,7 +1,5 @@
 #include "LifecycleFixture.h"
 
-using harness::Call;
-
 namespace {
 
 class LifecycleGLTest : public LifecycleFixture {
@@ -12,7 +10,6 @@ protected:
     }
 };
 
-constexpr char data[] = "data";
 const harness::LogLine creating = SurfaceLine("Create GL window\n", 5);
 const harness::LogLine recreating = SurfaceLine("ReCreate GL window\n", 5);
 

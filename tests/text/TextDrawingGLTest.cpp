@@ -4,13 +4,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-using harness::Call;
-using Calls = std::vector<std::string>;
-
 namespace {
-
-const void* const data = "";
-constexpr void* noData = nullptr;
 
 using Corner = std::array<float, 4>;
 
@@ -30,111 +24,84 @@ protected:
                static_cast<long>(vertices.size() - first);
     }
 
-    Calls Zeroing() const {
-        const auto zero = [](size_t size) { return Call("memset_s", data, size, 0, size); };
-        return {zero(sizeof(tagFrameBuffObject)), zero(sizeof(tagTextInfo)),
-                zero(sizeof(tagRectInfo))};
+    static Calls Create(GLenum unit, GLuint texture, int columns, int rows) {
+        return Calls{Call("glActiveTexture", unit), Call("glGenTextures", 1, data),
+                     BindTexture(texture),
+                     Call("glTexImage2D", GL_TEXTURE_2D, 0, GL_ALPHA, columns, rows, 0, GL_ALPHA,
+                          GL_UNSIGNED_BYTE, "null"),
+                     Call("glPixelStorei", GL_UNPACK_ALIGNMENT, 1)} +
+               SetParameters({GL_TEXTURE_WRAP_S, GL_TEXTURE_WRAP_T, GL_TEXTURE_MIN_FILTER,
+                              GL_TEXTURE_MAG_FILTER});
     }
 
-    Calls Creating(GLenum unit, GLuint texture, int columns, int rows) const {
-        const GLenum target = GL_TEXTURE_2D;
-        return {Call("glActiveTexture", unit),
-                Call("glGenTextures", 1, data),
-                Call("glBindTexture", target, texture),
-                Call("glTexImage2D", target, 0, GL_ALPHA, columns, rows, 0, GL_ALPHA,
-                     GL_UNSIGNED_BYTE, noData),
-                Call("glPixelStorei", GL_UNPACK_ALIGNMENT, 1),
-                Call("glTexParameteri", target, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE),
-                Call("glTexParameteri", target, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE),
-                Call("glTexParameteri", target, GL_TEXTURE_MIN_FILTER, GL_LINEAR),
-                Call("glTexParameteri", target, GL_TEXTURE_MAG_FILTER, GL_LINEAR)};
+    static Calls Upload(int x, int columns, int rows) {
+        return {Call("glTexSubImage2D", GL_TEXTURE_2D, 0, x, 0, columns, rows, GL_ALPHA,
+                     GL_UNSIGNED_BYTE, data)};
     }
 
-    std::string Uploading(int x, int columns, int rows) const {
-        return Call("glTexSubImage2D", GL_TEXTURE_2D, 0, x, 0, columns, rows, GL_ALPHA,
-                    GL_UNSIGNED_BYTE, data);
-    }
+    static Calls LoadChar(char16_t unit) { return {Call("FT_Load_Char", data, unit, 4)}; }
 
-    Calls Drawing(GLenum unit, GLuint texture, size_t units) const {
+    static Calls NextChar(char16_t unit) { return {Call("FT_Get_Next_Char", data, unit, data)}; }
+
+    /// A drawing operation, with the calls of the styled atlas in between.
+    Calls DrawText(GLenum unit, GLuint texture, size_t units, const Calls& styled = {}) const {
         const OSDText& text = *surface->osdText;
-        const auto framebuffer = surface->fboManager->slots[1].framebuffer;
-        return {Call("glBindFramebuffer", GL_FRAMEBUFFER, framebuffer),
-                Call("glViewport", 0, 0, width, height),
-                Call("glUseProgram", text.program),
-                Call("glEnable", GL_BLEND),
-                Call("glBlendFunc", GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA),
-                Call("glUniform4fv", text.colorLocation, 1, 1.0f, 1.0f, 1.0f, 1.0f),
-                Call("glActiveTexture", unit),
-                Call("glBindTexture", GL_TEXTURE_2D, texture),
-                Call("glUniform1i", text.texLocation, unit - GL_TEXTURE0),
-                Call("glEnableVertexAttribArray", text.coordLocation),
-                Call("glBindBuffer", GL_ARRAY_BUFFER, text.vertexBuffer),
-                Call("glVertexAttribPointer", text.coordLocation, 4, GL_FLOAT, 0, 0, noData),
-                Call("glBufferData", GL_ARRAY_BUFFER, 96 * units, data, GL_DYNAMIC_DRAW),
-                Call("glDrawArrays", GL_TRIANGLES, 0, 6 * units),
-                Call("glBindBuffer", GL_ARRAY_BUFFER, 0),
-                Call("glDisableVertexAttribArray", text.coordLocation),
-                Call("glDisable", GL_BLEND),
-                Call("glBindTexture", GL_TEXTURE_2D, 0),
-                Call("glBindFramebuffer", GL_FRAMEBUFFER, 0)};
+        return Calls{Zero(sizeof(tagFrameBuffObject)), Zero(sizeof(tagTextInfo)),
+                     Zero(sizeof(tagRectInfo))} +
+               styled + BindTarget(surface->fboManager->slots[1].framebuffer, width, height) +
+               Calls{Call("glUseProgram", text.program)} + EnableBlending() +
+               Calls{Call("glUniform4fv", text.colorLocation, 1, 1, 1, 1, 1)} +
+               Sample(unit, BindTexture(texture), text.texLocation) +
+               FeedVertices(text.coordLocation, text.vertexBuffer, 96 * units) +
+               Calls{Call("glDrawArrays", GL_TRIANGLES, 0, 6 * units)} +
+               UnbindVertices(text.coordLocation) +
+               Calls{Call("glDisable", GL_BLEND), BindTexture(0), BindFramebuffer(0)};
     }
 };
 
-Calls Join(const std::vector<Calls>& parts) {
-    Calls all;
-    for (const Calls& part : parts) {
-        all.insert(all.end(), part.begin(), part.end());
+Log Errors(const std::vector<std::string>& lines) {
+    Log log;
+    for (const std::string& line : lines) {
+        log.push_back({6, "OSDText", line});
     }
-    return all;
+    return log;
 }
 
 } // namespace
 
-TEST_F(TextDrawingGLTest, AtlasesAndDrawsMakeTheirCallsInOrderAndNoOthers) {
-    UseFakeFont({{65, 4, 3, 0, 3, 4}, {66, 5, 7, 0, 7, 5}});
+TEST_F(TextDrawingGLTest, MakesExactlyTheseCalls) {
+    UseFakeFont({{'A', 4, 3, 0, 3, 4}, {'B', 5, 7, 0, 7, 5}});
     Load(sansPath, 0);
     const Calls loading = harness::Record([&] { surface->fontAtlas->LoadFontByPath(sansPath, 0); });
     const GLuint atlas = surface->fontAtlas->GetFontTexture();
-    const auto walking = [](const Calls& first, const Calls& second) {
-        return Join({{Call("FT_Get_First_Char", data, data), Call("FT_Load_Char", data, 65, 4)},
-                     first,
-                     {Call("FT_Get_Next_Char", data, 65, data), Call("FT_Load_Char", data, 66, 4)},
-                     second,
-                     {Call("FT_Get_Next_Char", data, 66, data)}});
+    const auto walk = [](const Calls& first, const Calls& second) {
+        return Calls{Call("FT_Get_First_Char", data, data)} + LoadChar('A') + first +
+               NextChar('A') + LoadChar('B') + second + NextChar('B');
     };
-    EXPECT_EQ(loading, Join({{Call("glDeleteTextures", 1, data), Call("FT_Init_FreeType", data),
-                              Call("FT_New_Face", data, sansPath, 0, data),
-                              Call("FT_Set_Pixel_Sizes", data, 0, 40)},
-                             walking({}, {}),
-                             Creating(GL_TEXTURE1, atlas, 11, 7),
-                             walking({Uploading(0, 4, 3)}, {Uploading(5, 5, 7)}),
-                             {Call("glBindTexture", GL_TEXTURE_2D, 0), Call("FT_Done_Face", data),
-                              Call("FT_Done_FreeType", data)}}));
+    EXPECT_EQ(loading,
+              (Calls{Call("glDeleteTextures", 1, data), Call("FT_Init_FreeType", data),
+                     Call("FT_New_Face", data, sansPath, 0, data),
+                     Call("FT_Set_Pixel_Sizes", data, 0, 40)} +
+               walk({}, {}) + Create(GL_TEXTURE1, atlas, 11, 7) +
+               walk(Upload(0, 4, 3), Upload(5, 5, 7)) +
+               Calls{BindTexture(0), Call("FT_Done_Face", data), Call("FT_Done_FreeType", data)}));
     for (const std::u16string_view text : {u"", u"AB"}) {
         Draw(text);
-        const Calls calls = harness::Record([&] { Draw(text); });
-        EXPECT_EQ(calls, Join({Zeroing(), Drawing(GL_TEXTURE1, atlas, text.size())}));
+        EXPECT_EQ(harness::Record([&] { Draw(text); }), DrawText(GL_TEXTURE1, atlas, text.size()));
         ExpectStateAfterDraw(GL_TEXTURE1);
     }
     const Style italic = {40, false, true};
     Draw(u"BA", italic);
     const Calls styled = harness::Record([&] { Draw(u"BA", italic); });
     const GLuint texture = surface->osdText->fontTexture;
-    const Calls b = {Call("FT_Load_Char", data, 66, 4)};
-    const Calls a = {Call("FT_Load_Char", data, 65, 4)};
-    EXPECT_EQ(styled,
-              Join({Zeroing(),
-                    {Call("glDeleteTextures", 1, data), Call("FT_Set_Pixel_Sizes", data, 0, 40),
-                     Call("FT_Set_Transform", data, data, noData)},
-                    b,
-                    a,
-                    Creating(GL_TEXTURE2, texture, 11, 7),
-                    b,
-                    {Uploading(0, 5, 7)},
-                    a,
-                    {Uploading(6, 4, 3)},
-                    {Call("glBindTexture", GL_TEXTURE_2D, 0)},
-                    Drawing(GL_TEXTURE2, texture, 2)}));
+    EXPECT_EQ(
+        styled,
+        DrawText(GL_TEXTURE2, texture, 2,
+                 Calls{Call("glDeleteTextures", 1, data), Call("FT_Set_Pixel_Sizes", data, 0, 40),
+                       Call("FT_Set_Transform", data, data, "null")} +
+                     LoadChar('B') + LoadChar('A') + Create(GL_TEXTURE2, texture, 11, 7) +
+                     LoadChar('B') + Upload(0, 5, 7) + LoadChar('A') + Upload(6, 4, 3) +
+                     Calls{BindTexture(0)}));
     ExpectStateAfterDraw(GL_TEXTURE2);
     EXPECT_EQ(harness::TakeLog().size(), 1u) << "the standard atlas's size";
 }
@@ -159,13 +126,6 @@ TEST_F(TextDrawingGLTest, BuildsVerticesByTheFormulas) {
     addQuad(12, 57, 73, 0, 1);
     addQuad(13, 52, 60, 0.5f, 0.5f);
     EXPECT_EQ(Vertices(), expected);
-    // The same through the renderer's own operation.
-    harness::Current().bufferData.clear();
-    const Calls calls = harness::Record(
-        [&] { surface->osdText->RenderText(u"AB", 2, 10 / 128.0f - 1, 1 - 60 / 64.0f); });
-    EXPECT_EQ(Vertices(), expected);
-    EXPECT_EQ(calls.size(), 7U) << "three to bind the vertices, two to draw, two to unbind";
-
     const struct {
         int left, advance, start;
     } cases[] = {{-2, 10, 10}, {0, 10, 10}, {-2, 12, 8}, {-2, 0, 8}};
@@ -199,28 +159,27 @@ TEST_F(TextDrawingGLTest, MovesThePenByBothAdvances) {
     EXPECT_EQ(surface->fontAtlas->GetGlyphs().at(67).advanceY, 0.0f);
 }
 
-TEST_F(TextDrawingGLTest, SkipsWhatTheFontCannotShow) {
+TEST_F(TextDrawingGLTest, SkipsUnitsThatTheFontLacks) {
     Load();
-    Draw(u"MMMM"); // so that the stack is not zero by chance
+    Draw(u"MMMM"); // fills the stack
     const int uploads = harness::CountOf("glBufferData");
     const int draws = harness::CountOf("glDrawArrays");
     Drawn(u"A\nB ");
-    EXPECT_EQ(harness::TakeLog(),
-              Errors({{"OSDText", "Char 10 is not exit\n"}, {"OSDText", "Char 32 is not exit\n"}}));
+    EXPECT_EQ(harness::TakeLog(), Errors({"Char 10 is not exit\n", "Char 32 is not exit\n"}));
     EXPECT_TRUE(Shows(u"AB", {}));
     EXPECT_TRUE(Vertices().size() == 24 && IsZeroFrom(12));
     EXPECT_EQ(harness::CountOf("glBufferData") - uploads, 2) << "one a text, one for clearing";
     EXPECT_EQ(harness::CountOf("glDrawArrays") - draws, 2);
 
-    // The styled atlas ends at the zero unit: what follows has no area and moves nothing.
+    // The styled atlas ends at the zero unit: later units have no area and do not move the pen.
     Drawn({u"ab\0c", 4}, {41});
-    EXPECT_EQ(harness::TakeLog(), Errors({{"OSDText", "Char 0 is not exit\n"}}));
+    EXPECT_EQ(harness::TakeLog(), Errors({"Char 0 is not exit\n"}));
     EXPECT_TRUE(Shows(u"ab", {41}));
     EXPECT_EQ(Vertices()[12], Vertices()[17]);
     EXPECT_TRUE(Vertices().size() == 24 && IsZeroFrom(18));
     EXPECT_EQ(surface->fontStyleAtlas->GetGlyphs().size(), 2u);
 
-    // So does a unit that fails to load in both passes, which nobody logs.
+    // A unit that fails to load in both passes is skipped without a log line.
     harness::FailCall("FT_Load_Char", 1);
     harness::FailCall("FT_Load_Char", 3);
     Drawn(u"ab", {41});
@@ -255,8 +214,8 @@ TEST_F(TextDrawingGLTest, NeverReadsPastTheLength) {
     EXPECT_EQ(harness::CountOf("glDrawArrays") - draws, 2);
 }
 
-TEST_F(TextDrawingGLTest, TakesMemoryForLongTextsOnlyAndStandsItsRefusal) {
-    UseFirst(100);
+TEST_F(TextDrawingGLTest, AllocatesForLongTextsOnlyAndSurvivesARefusal) {
+    UseCharacters({'i'});
     Load();
     const std::u16string fits(64, u'i');
     const std::u16string tooLong(65, u'i');
@@ -271,12 +230,12 @@ TEST_F(TextDrawingGLTest, TakesMemoryForLongTextsOnlyAndStandsItsRefusal) {
     Fill({});
     harness::RefuseAllocation(1);
     EXPECT_EQ(Draw(tooLong), ZO_FAILURE);
-    EXPECT_EQ(harness::TakeLog(), Errors({{"OSDText", "out of memory\n"}}));
+    EXPECT_EQ(harness::TakeLog(), Errors({"out of memory\n"}));
     ExpectStateAfterDraw(GL_TEXTURE1);
     EXPECT_TRUE(Shows(u"", {}));
     harness::RefuseAllocation(1);
     surface->osdText->RenderText(tooLong.data(), 65, 0, 0);
-    EXPECT_EQ(harness::TakeLog(), Errors({{"OSDText", "out of memory\n"}}));
+    EXPECT_EQ(harness::TakeLog(), Errors({"out of memory\n"}));
     ExpectStateAfterDraw(GL_TEXTURE1);
     EXPECT_EQ(Draw(tooLong), ZO_SUCCESS);
     EXPECT_TRUE(Shows(tooLong, {}));

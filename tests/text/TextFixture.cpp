@@ -55,11 +55,3 @@ Image TextFixture::Drawn(std::u16string_view text, const Style& style) {
     return Matches(
         shown, [&](int column, int row) { return expected.At(column, row); }, tolerance);
 }
-
-Log TextFixture::Errors(const std::vector<std::pair<const char*, std::string>>& lines) const {
-    Log log;
-    for (const auto& [tag, text] : lines) {
-        log.push_back({6, tag, text});
-    }
-    return log;
-}

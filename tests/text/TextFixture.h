@@ -3,12 +3,13 @@
 #ifndef ZOGLES_TESTS_TEXT_TEXTFIXTURE_H
 #define ZOGLES_TESTS_TEXT_TEXTFIXTURE_H
 
-#include "FakeFont.h"
 #include "ReferenceFont.h"
+#include "support/Calls.h"
+#include "support/FakeFont.h"
 #include "support/SurfaceFixture.h"
 
-constexpr char sansPath[] = ZOGLES_TEST_FONT_FOLDER "/DejaVuSans.ttf";
-constexpr char monoPath[] = ZOGLES_TEST_FONT_FOLDER "/DejaVuSansMono.ttf";
+constexpr char sansPath[] = ZOGLES_TEST_FONT;
+constexpr char monoPath[] = ZOGLES_TEST_MONO_FONT;
 
 class TextFixture : public SurfaceFixture {
 protected:
@@ -18,7 +19,7 @@ protected:
 
     void SetUp() override;
 
-    /// Loads a font and forgets what that logged.
+    /// Loads a font and drops the log of it.
     void Load(const char* path = sansPath, unsigned int size = 40);
 
     void Fill(const Pixel& color);
@@ -30,13 +31,10 @@ protected:
     /// The buffer's pixels after it is cleared and a text drawn.
     Image Drawn(std::u16string_view text, const Style& style = {});
 
-    /// Whether the buffer shows a text over a background, as FreeType and the formula have it.
+    /// Whether the buffer shows a text over a background, as FreeType and the blend formula give it.
     ::testing::AssertionResult Shows(std::u16string_view text, const Style& style,
                                      const char* path = sansPath, int x = 10, int y = 60,
                                      const Pixel& background = {});
-
-    /// Lines of error priority, from tags and texts.
-    Log Errors(const std::vector<std::pair<const char*, std::string>>& lines) const;
 
     unsigned int buffer = 0; ///< what texts are drawn into
 };

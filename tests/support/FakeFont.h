@@ -1,7 +1,7 @@
 /// @file
-/// Made-up glyphs in the place of a font's.
-#ifndef ZOGLES_TESTS_TEXT_FAKEFONT_H
-#define ZOGLES_TESTS_TEXT_FAKEFONT_H
+/// Fonts of few characters, and glyphs made up by tests.
+#ifndef ZOGLES_TESTS_SUPPORT_FAKEFONT_H
+#define ZOGLES_TESTS_SUPPORT_FAKEFONT_H
 
 #include <vector>
 
@@ -20,10 +20,13 @@ struct FakeGlyph {
     unsigned short grays = 256; ///< how many levels the coverage has
 };
 
-/// From now on every face maps these characters, in this order, and no others.
+/// From now on every face maps only these characters, in this order.
+void UseCharacters(const std::vector<unsigned long>& codes);
+
+/// The same, with these glyphs in place of the font's.
 void UseFakeFont(std::vector<FakeGlyph> glyphs);
 
-/// From now on every face maps its first few characters only, which load faster than all.
+/// From now on every face maps only its first few characters, which load faster than all.
 void UseFirst(int characters);
 
 #endif

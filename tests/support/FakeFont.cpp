@@ -1,31 +1,35 @@
-#include "FakeFont.h"
+#include "support/FakeFont.h"
 
 #include "support/Harness.h"
 
 #include <algorithm>
 #include <memory>
 
+void UseCharacters(const std::vector<unsigned long>& codes) {
+    const auto visit = [codes](std::ptrdiff_t place, FT_UInt* index) {
+        *index = place < static_cast<std::ptrdiff_t>(codes.size()) ? 1 : 0;
+        return *index == 0 ? FT_ULong() : codes[static_cast<size_t>(place)];
+    };
+    harness::Current().loadChar = nullptr;
+    harness::Current().firstChar = [=](FT_Face, FT_UInt* index) { return visit(0, index); };
+    harness::Current().nextChar = [=](FT_Face, FT_ULong code, FT_UInt* index) {
+        return visit(std::find(codes.begin(), codes.end(), code) - codes.begin() + 1, index);
+    };
+}
+
 void UseFakeFont(std::vector<FakeGlyph> glyphs) {
-    const auto font = std::make_shared<std::vector<FakeGlyph>>(std::move(glyphs));
-    for (FakeGlyph& glyph : *font) {
+    std::vector<FT_ULong> codes;
+    for (FakeGlyph& glyph : glyphs) {
+        codes.push_back(glyph.code);
         glyph.coverage.resize(std::max(glyph.coverage.size(), size_t{glyph.width} * glyph.rows),
                               255);
     }
-    const auto find = [font](FT_ULong code) {
-        return std::find_if(font->begin(), font->end(),
-                            [code](const FakeGlyph& glyph) { return glyph.code == code; });
-    };
-    const auto visit = [font](auto glyph, FT_UInt* index) {
-        *index = glyph == font->end() ? 0 : 1;
-        return *index == 0 ? FT_ULong() : glyph->code;
-    };
-    harness::State& state = harness::Current();
-    state.firstChar = [=](FT_Face, FT_UInt* index) { return visit(font->begin(), index); };
-    state.nextChar = [=](FT_Face, FT_ULong code, FT_UInt* index) {
-        return visit(find(code) + 1, index);
-    };
-    state.loadChar = [=](FT_Face face, FT_ULong code, FT_Int32) -> FT_Error {
-        const auto glyph = find(code);
+    UseCharacters(codes);
+    const auto font = std::make_shared<std::vector<FakeGlyph>>(std::move(glyphs));
+    harness::Current().loadChar = [=](FT_Face face, FT_ULong code, FT_Int32) -> FT_Error {
+        const auto glyph =
+            std::find_if(font->begin(), font->end(),
+                         [code](const FakeGlyph& candidate) { return candidate.code == code; });
         if (glyph == font->end() || glyph->isFailing) {
             return FT_Err_Invalid_Character_Code;
         }
