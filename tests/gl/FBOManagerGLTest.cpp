@@ -93,18 +93,6 @@ TEST_F(FBOManagerGLTest, CreatesABufferInOrderAndClear) {
     ExpectStateAfterDraw(GL_TEXTURE0);
 }
 
-TEST_F(FBOManagerGLTest, NumbersBuffersBySlotUnlessTheNumberIsUsed) {
-    unsigned int handle = 0x1000C;
-    EXPECT_EQ(pool->GLCreateFBO(&handle, 4, 4, GL_RGBA, true), ZO_SUCCESS);
-    for (const unsigned int number :
-         {2U, 3U, 4U, 5U, 6U, 7U, 8U, 9U, 10U, 11U, 1U, 13U, 14U, 15U}) {
-        EXPECT_EQ(Create(4, 4), 0x10000 + number);
-    }
-    handle = untouched;
-    EXPECT_EQ(pool->GLCreateFBO(&handle, 4, 4, GL_RGBA, false), ZO_NO_FREE_FBO);
-    EXPECT_EQ(handle, untouched);
-}
-
 TEST_F(FBOManagerGLTest, DestroysTheObjectsOfABuffer) {
     const unsigned int whole = Create(4, 4);
     harness::FailCall("glGenTextures");
@@ -123,25 +111,6 @@ TEST_F(FBOManagerGLTest, DestroysTheObjectsOfABuffer) {
     }
     EXPECT_EQ(harness::TakeLog(), Log());
     ExpectGlError(GL_INVALID_FRAMEBUFFER_OPERATION); // without a texture, nothing to clear
-}
-
-TEST_F(FBOManagerGLTest, KeepsBuffersOfImpossibleSizes) {
-    const std::tuple<int, int, GLenum> cases[] = {
-        // and the driver's first error
-        {0, 5, GL_INVALID_FRAMEBUFFER_OPERATION},
-        {1 << 28, 1 << 28, GL_INVALID_VALUE},
-        {-1, -1, GL_INVALID_VALUE},
-    };
-    for (const auto& [width, height, error] : cases) {
-        SCOPED_TRACE(testing::Message() << width << " x " << height);
-        const tagFrameBuffObject record = Get(Create(width, height));
-        EXPECT_EQ(record.width, width);
-        EXPECT_EQ(record.height, height);
-        EXPECT_EQ(harness::TakeLog(),
-                  (Log{{6, "FBOManager",
-                        "Unable to set up render Target: RFRAMEBUFFER_INCOMPLETE_ATTACHMENT\n"}}));
-        ExpectGlError(error);
-    }
 }
 
 TEST_F(FBOManagerGLTest, ClearsATargetToAColour) {

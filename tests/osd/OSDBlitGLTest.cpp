@@ -7,7 +7,7 @@ namespace {
 class OSDBlitGLTest : public OSDFixture {};
 
 const Image picture = Noise(61, 47);
-const Image ground = Noise(47, 61);
+const Image background = Noise(47, 61);
 
 const struct Copy {
     const char* name;
@@ -16,10 +16,8 @@ const struct Copy {
 } copies[] = {
     {"apart", {3, 4, 20, 10}, {21, 30, 20, 10}},
     {"up", {0, 8, 40, 30}, {0, 0, 40, 30}},
-    {"down", {0, 0, 40, 30}, {0, 8, 40, 30}},
-    {"left", {7, 0, 30, 40}, {0, 0, 30, 40}},
     {"right", {0, 0, 30, 40}, {7, 0, 30, 40}},
-    {"onto itself", {0, 0, 47, 47}, {0, 0, 47, 47}},
+    {"the whole picture", {0, 0, 61, 47}, {1, 1, 61, 47}},
     {"one pixel", {13, 17, 1, 1}, {5, 6, 1, 1}},
     {"doubled", {10, 10, 12, 9}, {5, 20, 24, 18}},
     {"halved", {2, 2, 40, 32}, {20, 12, 20, 16}},
@@ -28,26 +26,24 @@ const struct Copy {
     {"past the bottom edge", {10, 40, 10, 20}, {4, 4, 10, 20}},
     {"past the corner, doubled", {53, 40, 16, 16}, {7, 9, 32, 32}},
     {"from outside", {70, 60, 10, 10}, {4, 4, 10, 10}},
-    {"from far outside", {100000, 70000, 10, 10}, {4, 4, 10, 10}},
     {"across the corner", {0, 0, 20, 20}, {40, 40, 20, 20}},
     {"to no pixels", {0, 0, 20, 20}, {10, 10, 0, 20}},
 };
 
-// Copies of equal size are exact. Scaled ones are rounded after each of the filter's steps, which
-// drivers do in their own ways.
+// Copies of equal size are exact. Drivers round scaled ones differently.
 int Tolerance(const Copy& copy) {
     return copy.from.width == copy.to.width && copy.from.height == copy.to.height ? 0 : 1;
 }
 
 } // namespace
 
-TEST_F(OSDBlitGLTest, CopiesWithinOneBufferAsBetweenTwo) {
+TEST_F(OSDBlitGLTest, CopiesWithinABufferAsBetweenTwo) {
     Bind();
     ASSERT_EQ(surface->Init(ZO_COMPONENT_BLIT), ZO_SUCCESS);
     const unsigned int source = CreateBuffer(picture);
     for (const Copy& copy : copies) {
         SCOPED_TRACE(copy.name);
-        for (const Image* old : {&ground, &picture}) {
+        for (const Image* old : {&background, &picture}) {
             const unsigned int destination = CreateBuffer(*old);
             const std::string live = harness::DescribeLive();
             Blit(old == &picture ? destination : source, destination, copy.from, copy.to);
@@ -59,15 +55,6 @@ TEST_F(OSDBlitGLTest, CopiesWithinOneBufferAsBetweenTwo) {
     }
     EXPECT_TRUE(Matches(Read(source), Of(picture)));
     EXPECT_EQ(harness::TakeLog(), Log());
-}
-
-TEST_F(OSDBlitGLTest, ScrollsABufferOfFullSize) {
-    Bind();
-    const Image large = Noise(1920, 1080);
-    const unsigned int buffer = CreateBuffer(large);
-    const tagZoRectInfo to = {1, 1, 1920, 1080};
-    Blit(buffer, buffer, WholeOf(large), to);
-    EXPECT_TRUE(Matches(Read(buffer), Drawn(large, WholeOf(large), to, Of(large))));
 }
 
 TEST_F(OSDBlitGLTest, BlitsWithinABufferOfSizeZero) {
@@ -87,7 +74,7 @@ TEST_F(OSDBlitGLTest, BlitsWithinABufferOfSizeZero) {
     }
 }
 
-TEST_F(OSDBlitGLTest, FailsWithinOneBufferWithoutATextureForTheCopy) {
+TEST_F(OSDBlitGLTest, FailsWithoutATextureForTheCopy) {
     Bind();
     const unsigned int buffer = CreateBuffer(picture);
     ASSERT_EQ(surface->Init(ZO_COMPONENT_BLIT), ZO_SUCCESS);

@@ -1,4 +1,4 @@
-// The two operations that show something on the whole window: buffers and client bitmaps.
+// The operations that replace the whole window: presentation of buffers and of client bitmaps.
 
 #include "OSDFixture.h"
 
@@ -36,19 +36,19 @@ TEST_F(OSDDisplayGLTest, ReplacesTheWholeWindowByBlendedPixels) {
     };
     for (const auto& [name, image, from, to] : presentations) {
         SCOPED_TRACE(name);
-        // Drivers round blended and filtered levels in their own ways.
+        // Drivers round blended and filtered pixels differently.
         const auto isShown = [&, blended = Blended(Drawn(image, from, to))] {
-            return Matches(ReadWindow(), blended, 1);
+            return Matches(Read(ZO_WINDOW_HANDLE), blended, 1);
         };
         const unsigned int buffer = CreateBuffer(image);
-        FillWindow({255, 255, 255, 255});
+        Fill(ZO_WINDOW_HANDLE, {255, 255, 255, 255});
         Display(buffer, from, to);
         EXPECT_TRUE(isShown());
         surface->ZoDestoryGLFBO(buffer);
         if (from.width != WholeOf(image).width) {
             continue; // bitmaps are shown whole
         }
-        FillWindow({255, 255, 255, 255});
+        Fill(ZO_WINDOW_HANDLE, {255, 255, 255, 255});
         glPixelStorei(GL_UNPACK_ALIGNMENT, 1); // as the glyph atlases leave it
         Display(image, to);
         EXPECT_TRUE(isShown());
@@ -60,40 +60,22 @@ TEST_F(OSDDisplayGLTest, ReplacesTheWholeWindowByBlendedPixels) {
     EXPECT_EQ(harness::TakeLog(), Log());
 }
 
-TEST_F(OSDDisplayGLTest, ShowsTheLastPresentationOnTheScreen) {
-    Bind();
-    const unsigned int buffer = CreateBuffer(translucent);
-    Display(square, WholeWindow());
-    Display(buffer, WholeOf(translucent), WholeWindow());
-    const tagZoRectInfo to = {70, 20, 61, 47};
-    Display(buffer, WholeOf(translucent), to);
-    EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_SUCCESS);
-    const PixelAt expected = [&](int x, int y) {
-        const Pixel pixel = Blended(Drawn(translucent, WholeOf(translucent), to))(x, y);
-        return Pixel{pixel[0], pixel[1], pixel[2], 255};
-    };
-    const Image screen = window.Grab([&](const Image& image) {
-        return image.At(80, 30) != image.At(0, 0); // something has arrived
-    });
-    EXPECT_TRUE(Matches(screen, expected, 1)); // as drivers round what they blend
-}
-
-// The window holds no image to sample, which GL reads as opaque black.
-TEST_F(OSDDisplayGLTest, FindsNoImageInTheWindow) {
+// GL samples opaque black where it has no image, as of the window.
+TEST_F(OSDDisplayGLTest, SamplesBlackFromTheWindow) {
     Bind();
     const unsigned int buffer = CreateBuffer(translucent);
     const tagZoRectInfo to = {5, 6, 7, 8};
-    const auto blackOver = [&](const PixelAt& ground) -> PixelAt {
+    const auto blackOver = [&](const PixelAt& background) -> PixelAt {
         return [=](int x, int y) {
-            return Contains(to, x, y) ? Pixel{0, 0, 0, 255} : ground(x, y);
+            return Contains(to, x, y) ? Pixel{0, 0, 0, 255} : background(x, y);
         };
     };
     Blit(ZO_WINDOW_HANDLE, buffer, to, to);
     EXPECT_TRUE(Matches(Read(buffer), blackOver(Of(translucent))));
-    FillWindow({10, 20, 30, 40});
+    Fill(ZO_WINDOW_HANDLE, {10, 20, 30, 40});
     Blit(ZO_WINDOW_HANDLE, ZO_WINDOW_HANDLE, to, to);
-    EXPECT_TRUE(Matches(ReadWindow(), blackOver(Of(Pixel{10, 20, 30, 40}))));
+    EXPECT_TRUE(Matches(Read(ZO_WINDOW_HANDLE), blackOver(Of(Pixel{10, 20, 30, 40}))));
     Display(ZO_WINDOW_HANDLE, to, to);
-    EXPECT_TRUE(Matches(ReadWindow(), blackOver(Of(emptyPixel))));
+    EXPECT_TRUE(Matches(Read(ZO_WINDOW_HANDLE), blackOver(Of(emptyPixel))));
     EXPECT_EQ(harness::TakeLog(), Log());
 }

@@ -1,5 +1,5 @@
 /// @file
-/// What the drawing operations' tests share: the operations, and formulas for what they leave.
+/// Drawing operations, and formulas for the pixels that they leave.
 #ifndef ZOGLES_TESTS_OSD_OSDFIXTURE_H
 #define ZOGLES_TESTS_OSD_OSDFIXTURE_H
 
@@ -11,7 +11,7 @@ constexpr Pixel emptyPixel = {0, 0, 0, 0};
 
 bool Contains(const tagZoRectInfo& rect, int x, int y);
 
-/// A picture without any repetition that a wrong place could hide in.
+/// A picture that never repeats, so that a shifted copy differs everywhere.
 Image Noise(int width, int height, bool isOpaque = false);
 
 /// The pixels of an image, or one pixel everywhere.
@@ -25,7 +25,7 @@ tagZoRectInfo WholeOf(const Image& image);
 PixelAt Drawn(const Image& image, const tagZoRectInfo& from, const tagZoRectInfo& to,
               const PixelAt& background = Of(emptyPixel));
 
-/// What blending makes of pixels drawn over transparent black.
+/// Pixels after blending over transparent black.
 PixelAt Blended(const PixelAt& drawn);
 
 class OSDFixture : public SurfaceFixture {
@@ -37,10 +37,6 @@ protected:
         return {0, 0, static_cast<unsigned int>(windowWidth),
                 static_cast<unsigned int>(windowHeight)};
     }
-
-    Image ReadWindow() { return ReadPixels(windowWidth, windowHeight); }
-
-    void FillWindow(const tagZoColorRGBA& color) { Draw(ZO_WINDOW_HANDLE, WholeWindow(), color); }
 
     void Draw(unsigned int buffer, const tagZoRectInfo& rect, const tagZoColorRGBA& color) {
         EXPECT_EQ(surface->ZoDrawRect(buffer, &rect, &color), ZO_SUCCESS);

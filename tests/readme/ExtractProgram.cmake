@@ -1,5 +1,5 @@
 # Writes the first ```cpp block of the file README to the file PROGRAM, with a line directive so that
-# the compiler's complaints name the place in README.
+# compiler messages name the line in README.
 file(READ "${README}" text)
 
 set(opening "\n```cpp\n")

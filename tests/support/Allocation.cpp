@@ -1,5 +1,4 @@
-// Counting and refusing of the library's heap allocations. It allocates by operator new alone, so
-// that is what the test programs replace.
+// Counts and refuses the library's heap allocations, all of which go through operator new.
 
 #include "support/Harness.h"
 
@@ -8,7 +7,7 @@
 
 namespace {
 
-// Driver threads allocate too; only the thread that runs the test counts.
+// Thread-local, as driver threads allocate, too.
 thread_local int outsideDepth = 0;
 thread_local bool isCounting = false;
 thread_local int allocations = 0;
@@ -30,7 +29,6 @@ void* Allocate(size_t size) {
 
 } // namespace
 
-// The library allocates by operator new alone, so that is where the tests count and refuse.
 void* operator new(size_t size) {
     void* memory = Allocate(size);
     if (memory == nullptr) {
@@ -64,16 +62,10 @@ void operator delete(void* memory) noexcept {
 void operator delete(void* memory, size_t) noexcept {
     free(memory);
 }
-void operator delete(void* memory, const std::nothrow_t&) noexcept {
-    free(memory);
-}
 void operator delete[](void* memory) noexcept {
     free(memory);
 }
 void operator delete[](void* memory, size_t) noexcept {
-    free(memory);
-}
-void operator delete[](void* memory, const std::nothrow_t&) noexcept {
     free(memory);
 }
 

@@ -2,29 +2,11 @@
 
 #include <EGL/egl.h>
 #include <X11/Xlib.h>
-#include <X11/Xutil.h>
-#include <unistd.h>
 
 namespace {
 
-constexpr int grabAttempts = 100;
-constexpr useconds_t grabPause = 20000;
-
 Display* Open(void* display) {
     return static_cast<Display*>(display);
-}
-
-Image ToImage(XImage* grabbed) {
-    Image image{grabbed->width, grabbed->height, {}};
-    for (int y = 0; y < grabbed->height; ++y) {
-        for (int x = 0; x < grabbed->width; ++x) {
-            const unsigned long pixel = XGetPixel(grabbed, x, y);
-            image.pixels.push_back({static_cast<unsigned char>(pixel >> 16),
-                                    static_cast<unsigned char>(pixel >> 8),
-                                    static_cast<unsigned char>(pixel), 255});
-        }
-    }
-    return image;
 }
 
 GLint Integer(GLenum name) {
@@ -35,8 +17,7 @@ GLint Integer(GLenum name) {
 
 } // namespace
 
-TestWindow::TestWindow(int windowWidth, int windowHeight)
-    : display(XOpenDisplay(nullptr)), window(0), width(windowWidth), height(windowHeight) {
+TestWindow::TestWindow(int width, int height) : display(XOpenDisplay(nullptr)), window(0) {
     if (display == nullptr) {
         throw std::runtime_error("the tests need an X server");
     }
@@ -54,21 +35,6 @@ TestWindow::~TestWindow() {
 
 ANativeWindow* TestWindow::Native() const {
     return reinterpret_cast<ANativeWindow*>(static_cast<uintptr_t>(window));
-}
-
-Image TestWindow::Grab(const std::function<bool(const Image&)>& isDone) const {
-    Image image;
-    for (int i = 0; i < grabAttempts; ++i) {
-        XImage* grabbed = XGetImage(Open(display), window, 0, 0, static_cast<unsigned int>(width),
-                                    static_cast<unsigned int>(height), AllPlanes, ZPixmap);
-        image = ToImage(grabbed);
-        XDestroyImage(grabbed);
-        if (isDone(image)) {
-            break;
-        }
-        usleep(grabPause);
-    }
-    return image;
 }
 
 void SurfaceFixture::SetUp() {
@@ -110,6 +76,14 @@ tagFrameBuffObject SurfaceFixture::Target(unsigned int handle) {
     tagFrameBuffObject target = {};
     EXPECT_TRUE(surface->fboManager->GetFBOInst(handle, &target));
     return target;
+}
+
+void SurfaceFixture::Fill(unsigned int handle, const Pixel& pixel) {
+    const tagFrameBuffObject target = Target(handle);
+    const tagZoRectInfo rect = {0, 0, static_cast<unsigned int>(target.width),
+                                static_cast<unsigned int>(target.height)};
+    const tagZoColorRGBA color = {pixel[0], pixel[1], pixel[2], pixel[3]};
+    EXPECT_EQ(surface->ZoDrawRect(handle, &rect, &color), ZO_SUCCESS);
 }
 
 Image SurfaceFixture::Read(unsigned int handle) {

@@ -1,5 +1,5 @@
 /// @file
-/// A surface on a real X11 window and a real driver.
+/// A surface on an X11 window and a driver.
 #ifndef ZOGLES_TESTS_SUPPORT_SURFACEFIXTURE_H
 #define ZOGLES_TESTS_SUPPORT_SURFACEFIXTURE_H
 
@@ -18,7 +18,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-/// A mapped X11 window, whose display connection is its own.
+/// A mapped X11 window and its connection to the server.
 class TestWindow {
 public:
     TestWindow(int width, int height);
@@ -28,23 +28,18 @@ public:
 
     ANativeWindow* Native() const;
 
-    /// What the X server shows of the window; waits, a while at most, until `isDone` says yes.
-    Image Grab(const std::function<bool(const Image&)>& isDone) const;
-
 private:
     void* display;
     unsigned long window;
-    int width;
-    int height;
 };
 
-/// After every test: no GL error, and once the surface is destroyed no live object.
+/// Expects after every test that GL has no error, and no object once the surface is destroyed.
 class SurfaceFixture : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// Binds the surface to the window and forgets what that logged.
+    /// Binds the surface to the window and drops the log of it.
     void Bind();
 
     /// Asks EGL for the size of the window that is bound.
@@ -53,16 +48,19 @@ protected:
     /// Creates an off-screen buffer; fails the test if it can't.
     unsigned int CreateBuffer(unsigned int width, unsigned int height);
 
-    /// The pixels of a target, the window's back buffer included.
+    /// Fills a whole target.
+    void Fill(unsigned int handle, const Pixel& pixel);
+
+    /// The pixels of a target; the window's are those of its back buffer.
     Image Read(unsigned int handle);
 
     /// The target's record.
     tagFrameBuffObject Target(unsigned int handle);
 
-    /// Says that the test made a GL error on purpose.
+    /// Expects a GL error that the test made on purpose, and clears all errors.
     void ExpectGlError(GLenum error);
 
-    /// Checks the GL state that every drawing operation leaves behind.
+    /// Expects the GL state that every drawing operation leaves.
     void ExpectStateAfterDraw(GLenum activeTexture);
 
     /// The window's size: what the tests ask for and, once the surface is bound, what EGL says.
@@ -73,7 +71,7 @@ protected:
     std::unique_ptr<ZoGLDrawSurface> surface;
 };
 
-/// The lines of an operation's log, for comparison with harness::TakeLog().
+/// For comparison with harness::TakeLog().
 using Log = std::vector<harness::LogLine>;
 
 #endif

@@ -37,7 +37,7 @@ protected:
 TEST_F(BufferHandlesGLTest, RestoresRecordedBuffersClearedUnderTheirHandles) {
     Bind();
     for (unsigned int i = 1; i <= 5; ++i) {
-        Fill(CreateBuffer(10 * i, 5));
+        Fill(CreateBuffer(10 * i, 5), filling);
     }
     surface->ZoDestoryGLFBO(0x10003);
     surface->ZoDestoryGLFBO(0x10001);
@@ -61,7 +61,7 @@ TEST_F(BufferHandlesGLTest, RestoresRecordedBuffersClearedUnderTheirHandles) {
     }
     EXPECT_EQ(handles.size(), 15U);
     EXPECT_EQ(*handles.rbegin(), 0x1000FU);
-    Fill(0x10005);
+    Fill(0x10005, filling);
     for (const unsigned int handle : handles) {
         EXPECT_TRUE(Matches(Read(handle), handle == 0x10005 ? Filled : Empty)) << handle;
     }
@@ -115,7 +115,7 @@ TEST_F(BufferHandlesGLTest, ANewPoolByItsFlagReplacesTheOneThereIs) {
 
 TEST_F(BufferHandlesGLTest, ABufferWithoutAFramebufferLeavesTheWindowAlone) {
     Bind();
-    Fill(ZO_WINDOW_HANDLE);
+    Fill(ZO_WINDOW_HANDLE, filling);
     harness::FailCall("glGenFramebuffers");
     unsigned int handle = 0;
     EXPECT_EQ(surface->ZoCreateGLFBO(&handle, 4, 3, 9), ZO_SUCCESS);
@@ -125,6 +125,6 @@ TEST_F(BufferHandlesGLTest, ABufferWithoutAFramebufferLeavesTheWindowAlone) {
     EXPECT_EQ(surface->ZoDrawRect(handle, &rect, &color), ZO_SUCCESS);
     EXPECT_TRUE(Matches(Read(ZO_WINDOW_HANDLE), Filled));
     Rebind();
-    Fill(handle);
+    Fill(handle, filling);
     EXPECT_TRUE(Matches(Read(handle), Filled));
 }

@@ -25,20 +25,12 @@ void LifecycleFixture::ExpectUnbound() const {
     EXPECT_EQ(harness::DescribeLive(), "");
 }
 
-void LifecycleFixture::Fill(unsigned int handle) {
-    const tagFrameBuffObject target = Target(handle);
-    const tagZoRectInfo rect = {0, 0, static_cast<unsigned int>(target.width),
-                                static_cast<unsigned int>(target.height)};
-    const tagZoColorRGBA color = {10, 20, 30, 40};
-    EXPECT_EQ(surface->ZoDrawRect(handle, &rect, &color), ZO_SUCCESS);
-}
-
 void LifecycleFixture::ExpectUsable() {
     if (!surface->surfaceCreated) {
         Bind();
     }
     const unsigned int buffer = CreateBuffer(8, 8);
-    Fill(buffer);
+    Fill(buffer, filling);
     EXPECT_TRUE(Matches(Read(buffer), Filled));
     EXPECT_EQ(surface->ZoDestoryGLFBO(buffer), ZO_SUCCESS);
     EXPECT_EQ(surface->ZoRefreshOnSrceen(), ZO_SUCCESS);

@@ -21,15 +21,13 @@ protected:
     /// Expects that everything of a binding is released.
     void ExpectUnbound() const;
 
-    /// Fills a target as `Filled` says.
-    void Fill(unsigned int handle);
-
     /// Binds, unless bound already, draws into a new buffer, reads it back and destroys it.
     void ExpectUsable();
 };
 
+constexpr Pixel filling = {10, 20, 30, 40};
 inline Pixel Filled(int, int) {
-    return {10, 20, 30, 40};
+    return filling;
 }
 inline Pixel Empty(int, int) {
     return {0, 0, 0, 0};

@@ -36,7 +36,7 @@ TEST_F(LifecycleGLTest, MovesToAnotherWindowAndKeepsTheRest) {
     EXPECT_EQ(Target(ZO_WINDOW_HANDLE).height, windowHeight);
     ASSERT_EQ(surface->Init(allComponents), ZO_SUCCESS);
     const unsigned int buffer = CreateBuffer(8, 8);
-    Fill(buffer);
+    Fill(buffer, filling);
     const void* text = surface->osdText.get();
 
     const TestWindow other(200, 100);
@@ -58,6 +58,8 @@ TEST_F(LifecycleGLTest, MovesToAnotherWindowAndKeepsTheRest) {
     EXPECT_EQ(surface->osdText.get(), text);
     EXPECT_TRUE(Matches(Read(buffer), Filled));
     ExpectUsable();
+    EXPECT_EQ(harness::Record([&] { surface->ZoRefreshOnSrceen(); }),
+              Calls{Call("eglSwapBuffers", data, data)});
     surface->ZoDestoryGLWindowSurface();
     ExpectUnbound();
     ExpectWindowSize(windowWidth, windowHeight);

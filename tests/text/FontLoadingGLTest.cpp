@@ -8,7 +8,7 @@ class FontLoadingGLTest : public TextFixture {};
 
 } // namespace
 
-TEST_F(FontLoadingGLTest, ASizeThatCannotBeSetLeavesTheOldOne) {
+TEST_F(FontLoadingGLTest, KeepsTheSizeIfTheNewOneCannotBeSet) {
     Load();
     Drawn(u"M", {20});
     harness::FailCall("FT_Set_Pixel_Sizes");
@@ -16,7 +16,7 @@ TEST_F(FontLoadingGLTest, ASizeThatCannotBeSetLeavesTheOldOne) {
     EXPECT_TRUE(Shows(u"M", {20}));
 }
 
-TEST_F(FontLoadingGLTest, TheLastOwnerFreesMembersInOrder) {
+TEST_F(FontLoadingGLTest, FreesMembersInOrderWithTheLastOwner) {
     UseFakeFont({{65, 4, 3}});
     Load();
     Draw(u"A", {41});
@@ -31,7 +31,7 @@ TEST_F(FontLoadingGLTest, TheLastOwnerFreesMembersInOrder) {
                                         "FT_Done_Face", "FT_Done_FreeType", "glDeleteTextures"}));
 }
 
-TEST_F(FontLoadingGLTest, SizeIsZeroAfterTwoFailedLoads) {
+TEST_F(FontLoadingGLTest, HasSizeZeroAfterTwoFailedLoads) {
     UseFakeFont({{65, 4, 3}});
     Load();
     harness::FailCall("glGenTextures");
@@ -49,16 +49,7 @@ TEST_F(FontLoadingGLTest, LoadFontReplacesTheAtlas) {
     EXPECT_EQ(harness::DescribeLive(), live);
 }
 
-TEST_F(FontLoadingGLTest, FirstUseDrawsInTheDefaultFont) {
-    EXPECT_EQ(surface->Init(0xFE), ZO_SUCCESS);
-    EXPECT_FALSE(surface->fontAtlas || surface->fontStyleAtlas || surface->osdText);
-    harness::Current().fontFile = monoPath;
-    UseFirst(100);
-    Drawn(u"A");
-    EXPECT_TRUE(Shows(u"A", {}, monoPath));
-}
-
-TEST_F(FontLoadingGLTest, AtlasesAreSharedReloadedInPlaceAndDroppedWithTheWindow) {
+TEST_F(FontLoadingGLTest, SharesAtlasesReloadsThemInPlaceAndDropsThemWithTheWindow) {
     UseFirst(200);
     Load();
     const std::weak_ptr<FontAtlas> standard = surface->fontAtlas;

@@ -13,12 +13,6 @@ void TextFixture::Load(const char* path, unsigned int size) {
     harness::TakeLog();
 }
 
-void TextFixture::Fill(const Pixel& color) {
-    const tagZoRectInfo all = {0, 0, width, height};
-    const tagZoColorRGBA fill = {color[0], color[1], color[2], color[3]};
-    ASSERT_EQ(surface->ZoDrawRect(buffer, &all, &fill), ZO_SUCCESS);
-}
-
 tagZoTextInfo TextFixture::Request(std::u16string_view text, const Style& style) const {
     tagZoTextInfo info = {};
     info.text = text.data();
@@ -38,7 +32,7 @@ int TextFixture::Draw(std::u16string_view text, const Style& style, unsigned int
 }
 
 Image TextFixture::Drawn(std::u16string_view text, const Style& style) {
-    Fill({});
+    Fill(buffer, {});
     EXPECT_EQ(Draw(text, style), ZO_SUCCESS);
     return Read(buffer);
 }

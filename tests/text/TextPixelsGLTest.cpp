@@ -41,7 +41,7 @@ TEST_F(TextPixelsGLTest, AreFreeTypesOwnBlendedByTheFormula) {
     for (const auto& c : cases) {
         for (const Pixel& background : {Pixel{30, 60, 200, 255}, Pixel{}}) {
             SCOPED_TRACE(c.name + std::string(" over alpha ") + std::to_string(background[3]));
-            Fill(background);
+            Fill(buffer, background);
             ASSERT_EQ(Draw(c.text, c.style, c.x, c.y), ZO_SUCCESS);
             EXPECT_TRUE(Shows(c.text, c.style, sansPath, static_cast<int>(c.x),
                               static_cast<int>(c.y), background));
