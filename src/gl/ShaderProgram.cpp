@@ -113,11 +113,8 @@ void ShaderProgram::PrintLog(unsigned int object) const {
         return;
     }
     GLint length = 0;
-    if (isShader) {
-        glGetShaderiv(object, GL_INFO_LOG_LENGTH, &length);
-    } else {
-        glGetProgramiv(object, GL_INFO_LOG_LENGTH, &length);
-    }
+    const auto getParameter = isShader ? glGetShaderiv : glGetProgramiv;
+    getParameter(object, GL_INFO_LOG_LENGTH, &length);
     // One byte more than the driver counts, so that an empty log is an empty text.
     const size_t size = length > 0 ? static_cast<size_t>(length) : 0;
     const std::unique_ptr<char[]> text(new (std::nothrow) char[size + 1]());

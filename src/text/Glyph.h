@@ -76,9 +76,10 @@ private:
         /// Page by page, the entry of each code. The first page is all zero and represents every
         /// absent page.
         std::vector<std::uint32_t> indices = std::vector<std::uint32_t>(pageSize);
-        std::map<unsigned long, std::uint32_t>
-            pages;                                  ///< where each page starts, by code / pageSize
-        std::uint32_t startOfUnits[unitPages] = {}; ///< the same for the pages of UTF-16 units
+        /// Where each page starts, by code / pageSize.
+        std::map<unsigned long, std::uint32_t> pages;
+        /// The same for the pages of UTF-16 units.
+        std::uint32_t startOfUnits[unitPages] = {};
     };
 
     std::shared_ptr<Table> table;
