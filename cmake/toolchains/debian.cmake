@@ -2,7 +2,7 @@
 # come from build/sysroot-<architecture>, which scripts/cross makes, so that the system needs no
 # package of that architecture.
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ZOGLES_ARCHITECTURE)
-# What the compiler, the folder of libraries, the loader and the emulator are called.
+# The names of the compiler, the folder of libraries, the loader and the emulator.
 if(ZOGLES_ARCHITECTURE STREQUAL "arm64")
   set(names aarch64-linux-gnu aarch64-linux-gnu ld-linux-aarch64.so.1 aarch64)
 elseif(ZOGLES_ARCHITECTURE STREQUAL "armhf")
