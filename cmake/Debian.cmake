@@ -1,17 +1,17 @@
-# Two Debian packages: libzogles1, which programs run with, and libzogles-dev, which they are built
-# with. scripts/package makes them; see there.
+# Two Debian packages: libzogles1 to run programs, libzogles-dev to build them. scripts/package makes
+# them.
 set(runtime "libzogles${PROJECT_VERSION_MAJOR}")
 set(development libzogles-dev)
 set(release 1)
-set(ZOGLES_MAINTAINER "libzogles <root@localhost>" CACHE STRING "Name <address> of who packages")
+set(ZOGLES_MAINTAINER "libzogles <root@localhost>" CACHE STRING "The packager: Name <address>")
 
-# What Debian's policy wants to lie beside a package: its licence and its history.
+# Debian's policy demands the licence and the history in each package.
 string(TIMESTAMP ZOGLES_DATE "%a, %d %b %Y %H:%M:%S +0000" UTC)
 set(ZOGLES_DEBIAN_VERSION "${PROJECT_VERSION}-${release}")
 configure_file(cmake/debian/changelog.in changelog.Debian @ONLY)
 configure_file(CHANGELOG.md changelog COPYONLY)
 execute_process(COMMAND gzip -9nkf changelog.Debian changelog
-  WORKING_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}" COMMAND_ERROR_IS_FATAL ANY)
+  WORKING_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}")
 foreach(component runtime development)
   install(FILES
     cmake/debian/copyright
@@ -19,10 +19,10 @@ foreach(component runtime development)
     "${CMAKE_CURRENT_BINARY_DIR}/changelog.gz"
     DESTINATION "share/doc/${${component}}" COMPONENT ${component})
 endforeach()
-install(FILES README.md DESTINATION share/doc/${development} COMPONENT development)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/README.md" DESTINATION share/doc/${development} COMPONENT development)
 
-# Which version a symbol came with, so that a program depends on no newer one than it needs. The
-# build fails when the library exports other symbols than the list names.
+# The version that introduced each symbol, so that a program depends on the oldest version that
+# suffices. The build fails if the library exports other symbols than the list.
 set(symbols "${CMAKE_CURRENT_BINARY_DIR}/symbols")
 set(symbols_list "${PROJECT_SOURCE_DIR}/cmake/debian/${runtime}.symbols")
 add_custom_command(OUTPUT "${symbols}"

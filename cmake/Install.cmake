@@ -1,5 +1,5 @@
-# What is installed, in three components: runtime, development and docs. Clients find it with
-# find_package(zogles 1) or pkg-config; both work wherever the installed tree is moved.
+# The installation has three components: runtime, development and docs. Clients find the library with
+# find_package(zogles 1) or pkg-config, also after the installed tree was moved.
 include(CMakePackageConfigHelpers)
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/zogles")
@@ -10,7 +10,14 @@ install(TARGETS zogles EXPORT zogles-targets
     COMPONENT runtime NAMELINK_COMPONENT development
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 install(DIRECTORY include/zogles DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
-install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT docs)
+
+# The files that the README links to are not installed, so the installed one has no links.
+file(READ README.md readme)
+string(REGEX REPLACE "!\\[[^]]*\\]\\([^)]*\\)\n\n" "" readme "${readme}")
+string(REGEX REPLACE "\\[([^]]*)\\]\\([^)]*\\)" "\\1" readme "${readme}")
+file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/README.md" "${readme}")
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/README.md" CHANGELOG.md LICENSE
+  DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT docs)
 
 # For CMake
 install(EXPORT zogles-targets NAMESPACE zogles:: DESTINATION "${package_folder}"
@@ -24,14 +31,13 @@ install(FILES
   cmake/zogles-dependencies.cmake
   DESTINATION "${package_folder}" COMPONENT development)
 
-# For pkg-config: every folder is given from where the .pc file lies.
+# For pkg-config, with folders relative to the .pc file.
 set(pc_folder "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig")
 foreach(folder PREFIX FULL_LIBDIR FULL_INCLUDEDIR)
   file(RELATIVE_PATH way "${pc_folder}" "${CMAKE_INSTALL_${folder}}")
   string(REGEX REPLACE "/$" "" ZOGLES_PC_${folder} "${way}")
 endforeach()
-# A shared library names what it needs itself. A static one does not, so clients link that too, with
-# pkg-config's --static or without.
+# Clients of a static library must link its dependencies, with pkg-config's --static or without.
 if(ZOGLES_LIBRARY_TYPE STREQUAL STATIC_LIBRARY)
   foreach(library IN LISTS ZOGLES_PLATFORM_LIBRARIES)
     string(APPEND ZOGLES_PC_LIBRARIES " -l${library}")

@@ -1,12 +1,12 @@
-# What the library brings because the platform has none: ZOGLES_OWN_FUNCTIONS, and whether memset_s is
-# one of them, ZOGLES_OWN_MEMSET_S. ZOGLES_PLATFORM_LIBRARIES hold what the platform has.
+# ZOGLES_OWN_FUNCTIONS: functions that the library defines because the platform lacks them, with
+# ZOGLES_OWN_MEMSET_S for memset_s. ZOGLES_PLATFORM_LIBRARIES: libraries with those that it has.
 include(CheckCXXSourceCompiles)
 set(ZOGLES_BOUNDS_LIBRARY boundscheck CACHE STRING
-  "The platform's bounds-checking library, looked at where the C library has no memset_s")
+  "The platform's bounds-checking library, searched if the C library has no memset_s")
 set(ZOGLES_OWN_FUNCTIONS "")
 set(ZOGLES_PLATFORM_LIBRARIES "")
 
-# The results are cached, so the variables that steer the checks need no resetting.
+# A function, so that the variables that steer the checks keep their values outside.
 function(zogles_check_platform)
   set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
   check_cxx_source_compiles("
@@ -15,7 +15,7 @@ function(zogles_check_platform)
     #endif
     " ZOGLES_HAS_PLATFORM_LOG)
 
-  # Only a link tells, also where a toolchain has CMake compile alone.
+  # Link even if the toolchain file makes CMake only compile.
   set(CMAKE_TRY_COMPILE_TARGET_TYPE EXECUTABLE)
   set(program "
     extern \"C\" int memset_s(void*, decltype(sizeof 0), int, decltype(sizeof 0));

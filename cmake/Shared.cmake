@@ -8,7 +8,7 @@ foreach(function IN LISTS ZOGLES_OWN_FUNCTIONS)
 endforeach()
 configure_file(cmake/exports.map.in exports.map @ONLY)
 set(replaceable "${PROJECT_SOURCE_DIR}/cmake/replaceable.list")
-# Without -Bsymbolic, which would bind the replaceable functions, too.
+# Not -Bsymbolic, which would also bind the replaceable functions.
 target_link_options(zogles PRIVATE
   "LINKER:--version-script=${CMAKE_CURRENT_BINARY_DIR}/exports.map"
   "LINKER:--dynamic-list=${replaceable}")

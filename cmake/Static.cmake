@@ -1,8 +1,9 @@
-# The static library. Its classes have common names, which a program may use for its own. So it is one
-# object in which all but the public class is local, where the linker and objcopy can make that.
+# The static library. A program may use the names of its internal classes for other classes. So the
+# library is one object in which all symbols but those of the public class are local, if the linker and
+# objcopy can make one.
 
-# Sections that several objects share, such as those of templates, have to become the object's own:
-# otherwise the linker may drop them in favour of a program's.
+# Sections that several objects share, such as those of templates, must become part of the object:
+# otherwise the linker may replace them by a program's.
 separate_arguments(flags UNIX_COMMAND "${CMAKE_CXX_FLAGS}")
 if(CMAKE_CXX_COMPILER_TARGET)
   list(APPEND flags "${CMAKE_CXX_COMPILE_OPTIONS_TARGET}${CMAKE_CXX_COMPILER_TARGET}")
@@ -29,17 +30,21 @@ endif()
 
 if(failure)
   message(STATUS "libzogles.a is an ordinary archive: "
-    "the linker or objcopy cannot make its inner names local, so a program's may clash with them")
+    "the linker or objcopy cannot make internal symbols local, so they may clash with a program's")
   add_library(zogles STATIC $<TARGET_OBJECTS:zogles_objects>)
   add_library(zogles_internal ALIAS zogles)
   set(ZOGLES_ARCHIVE "")
 else()
-  set(object "${CMAKE_CURRENT_BINARY_DIR}/zogles$<CONFIG>.o")
+  set(object "${CMAKE_CURRENT_BINARY_DIR}/zogles.o")
+  get_property(multi_config GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
+  if(multi_config) # needs CMake 3.20
+    set(object "${CMAKE_CURRENT_BINARY_DIR}/zogles$<CONFIG>.o")
+  endif()
   add_custom_command(OUTPUT "${object}"
     COMMAND ${combine} $<TARGET_OBJECTS:zogles_objects> -o "${object}"
     COMMAND ${localize} "${object}"
     DEPENDS $<TARGET_OBJECTS:zogles_objects>
-    COMMENT "Making one object of the library's"
+    COMMENT "Combining the library into one object"
     COMMAND_EXPAND_LISTS VERBATIM)
   add_library(zogles STATIC "${object}")
   add_dependencies(zogles zogles_objects) # Make has no rule for them there

@@ -1,5 +1,5 @@
-# Whether to build the tests and the examples: build_tests and build_examples. AUTO stands for where
-# their packages are; ON demands the packages.
+# Sets build_tests and build_examples. AUTO builds them if their packages are installed; ON requires the
+# packages.
 function(zogles_require name found)
   if(NOT ${found})
     foreach(user IN LISTS ARGN)
@@ -28,10 +28,10 @@ if(build_examples)
   zogles_require(Xfixes X11_Xfixes_FOUND examples)
 endif()
 if(build_tests)
-  # GoogleTest's package ends in an error where its half for mocks is not installed.
+  # GoogleTest's package fails if gmock is not installed.
   find_path(ZOGLES_GMOCK_HEADERS gmock/gmock.h)
   if(ZOGLES_GMOCK_HEADERS)
-    find_package(GTest QUIET)
+    find_package(GTest CONFIG QUIET)
   endif()
   find_program(XVFB_RUN xvfb-run)
   find_file(ZOGLES_TEST_FONT DejaVuSans.ttf PATHS /usr/share/fonts /usr/local/share/fonts

@@ -1,6 +1,6 @@
-# EGL and OpenGL ES as the targets zogles::EGL and zogles::GLES: from pkg-config where it knows them,
-# otherwise by header and library. The build of the library and the clients of an installed static
-# one share this file. zogles_missing lists what is not there.
+# EGL and OpenGL ES as the targets zogles::EGL and zogles::GLES: from pkg-config if it knows them,
+# otherwise by header and library. The library's build and clients of an installed static library share
+# this file. zogles_missing lists what was not found.
 find_package(PkgConfig QUIET)
 set(zogles_missing "")
 
