@@ -22,7 +22,7 @@ TEST(LogFilterTest, ShowsFromTheLeastPriorityOn) {
     for (int i = 0; i < 33; ++i) {
         fullTable += 'T' + std::to_string(i) + ":S ";
     }
-    const std::string longTag(1023, 'x'); // all the room for tags there is
+    const std::string longTag(1023, 'x'); // fills the storage for tags
     const Case cases[] = {
         {"", "A", 2},
         {"A:D B:I C:W D:E", "C", 5},
