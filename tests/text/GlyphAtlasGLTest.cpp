@@ -62,8 +62,6 @@ TEST_F(GlyphAtlasGLTest, PlacesAndRecordsWhatFits) {
         // At the limit, and a pixel above it.
         {{{65, 256, 9}, {66, 257, 8}}, 256, "256 x 9 (2 kb)", " 65:0,0", {oneOut}},
         {{{65, 9, 256}, {66, 8, 257}}, 256, "10 x 256 (2 kb)", " 65:0,0", {oneOut}},
-        {{{65, 64, 9}, {66, 65, 8}}, 64, "64 x 9 (0 kb)", " 65:0,0", {oneOut}},
-        {{{65, 9, 64}, {66, 8, 65}}, 64, "10 x 64 (0 kb)", " 65:0,0", {oneOut}},
         // Without area, but with an advance.
         {{{65, 3, 4}, {66, 9, 0}, {67, 0, 9}}, {}, "15 x 9 (0 kb)", " 65:0,0 66:4,0 67:14,0", {}},
         // Codes above 0x10FFFF are not Unicode.
