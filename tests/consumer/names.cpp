@@ -1,5 +1,5 @@
-// Classes of a user's program that have the names of the library's internal ones, with the same
-// signatures. The library must call its own: any function here ends the program.
+// Classes of a user's program that have the names and signatures of the library's internal classes.
+// The library must not call them: every function here ends the program.
 #include "names.h"
 
 #include <csignal>
@@ -19,7 +19,7 @@ unsigned int Stop() {
 
 } // namespace
 
-// Compiles an inline function although nothing calls it.
+// Compiles an inline function that nothing calls.
 #define USED __attribute__((used))
 
 class FontAtlas {

@@ -35,6 +35,15 @@ TEST_F(OSDRectGLTest, FillsExactlyItsPixels) {
     EXPECT_EQ(harness::TakeLog(), Log());
 }
 
+TEST_F(OSDRectGLTest, ReadsNoVerticesWithoutABuffer) {
+    Bind();
+    harness::FailCall("glGenBuffers");
+    Draw(ZO_WINDOW_HANDLE, {0, 0, 9, 9}, {1, 1, 1, 1});
+    EXPECT_EQ(harness::CountOf("glDrawArrays"), 1);
+    EXPECT_EQ(harness::CountOf("glEnableVertexAttribArray"), 0);
+    ExpectGlError(GL_INVALID_OPERATION);
+}
+
 TEST_F(OSDRectGLTest, StopsAtTheFirstRecordThatIsNotZeroed) {
     Bind();
     ASSERT_EQ(surface->Init(ZO_COMPONENT_RECT), ZO_SUCCESS);

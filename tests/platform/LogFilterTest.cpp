@@ -22,19 +22,16 @@ TEST(LogFilterTest, ShowsFromTheLeastPriorityOn) {
     for (int i = 0; i < 33; ++i) {
         fullTable += 'T' + std::to_string(i) + ":S ";
     }
-    const std::string longTag(1023, 'x'); // all the room for tags there is
+    const std::string longTag(1023, 'x'); // fills the storage for tags
     const Case cases[] = {
         {"", "A", 2},
         {"A:D B:I C:W D:E", "C", 5},
-        {"A:D B:I C:W D:E", "B", 4},
         {"*:F", "A", 7},
         {"*:D", "A", 3},
         {"*:I", "A", 4},
         {"*:1", "A", 1},
-        {"A:S,B:E", "A", none},
         {"A:S,B:E", "B", 6},
-        {"A:8", "A", 2}, // numbers from silent on mean verbose
-        {"A:9", "A", 2},
+        {"A:8", "A", 2}, // digits from 8 mean verbose
         {"*:S", "A", none},
         {"*:w", "A", 5},
         {"A:E", "AB", 2},
@@ -46,7 +43,6 @@ TEST(LogFilterTest, ShowsFromTheLeastPriorityOn) {
         {"*A:S", "A", 2},
         {"*:S A:*", "A", 2},
         {"*:E A:x", "A", 6},
-        {"A:6", "A", 6},
         {"*", "A", 3},
         {"*:", "A", 2},
         {":E", "", 2},

@@ -15,8 +15,8 @@ namespace {
 
 using Writes = std::vector<std::string>;
 
-// Runs `action` in a process of its own, since the filter is read once, and returns what it wrote
-// to stderr, a string a write: a pipe in packet mode keeps them apart.
+// Runs `action` in a new process, since a process reads the filter once, and returns its writes to
+// stderr. A pipe in packet mode keeps them apart.
 Writes Log(const char* filter, const std::function<bool()>& action) {
     int ends[2];
     EXPECT_EQ(pipe2(ends, O_DIRECT), 0);
@@ -77,7 +77,7 @@ TEST(LogTest, WritesEachLineOfAMessageAtOnce) {
     }
 }
 
-TEST(LogTest, NeitherFormatsNorWritesWhatTheFilterReadOnceDrops) {
+TEST(LogTest, NeitherFormatsNorWritesFilteredLines) {
     const char* unreadable = reinterpret_cast<const char*>(1);
     const Writes writes = Log("Quiet:S *:W", [&] {
         bool isRight = __android_log_print(6, "Quiet", "%s", unreadable) == 0 &&

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <gtest/gtest.h>
 
-TEST(MemsetSTest, FillsWhatFitsAndRefusesTheRestUntouched) {
+TEST(MemsetSTest, FillsWhatFitsAndChangesNothingElse) {
     constexpr size_t half = SIZE_MAX / 2;
     const struct {
         bool hasDestination;

@@ -1,5 +1,5 @@
 /// @file
-/// Lists of calls, as harness::Record returns them, and the runs of calls that operations share.
+/// Lists of calls, as harness::Record returns them, and sequences that operations share.
 #ifndef ZOGLES_TESTS_SUPPORT_CALLS_H
 #define ZOGLES_TESTS_SUPPORT_CALLS_H
 
@@ -10,7 +10,7 @@
 using harness::Call;
 using Calls = std::vector<std::string>;
 
-/// How a pointer is written that is not null.
+/// Any pointer but null in a recorded call.
 inline constexpr char data[] = "data";
 
 inline Calls operator+(Calls first, const Calls& second) {

@@ -1,11 +1,11 @@
 /// @file
-/// Fonts of few characters, and glyphs made up by tests.
+/// Fonts of few characters, and made-up glyphs.
 #ifndef ZOGLES_TESTS_SUPPORT_FAKEFONT_H
 #define ZOGLES_TESTS_SUPPORT_FAKEFONT_H
 
 #include <vector>
 
-/// A glyph as FreeType would deliver it.
+/// A glyph as FreeType loads it.
 struct FakeGlyph {
     unsigned long code;
     unsigned int width;
@@ -17,7 +17,7 @@ struct FakeGlyph {
     std::vector<unsigned char> coverage = {}; ///< empty means 255 all over
     bool isFailing = false;
     int rise = 0;               ///< vertical advance, pixels
-    unsigned short grays = 256; ///< how many levels the coverage has
+    unsigned short grays = 256; ///< levels of the coverage
 };
 
 /// From now on every face maps only these characters, in this order.
@@ -26,7 +26,7 @@ void UseCharacters(const std::vector<unsigned long>& codes);
 /// The same, with these glyphs in place of the font's.
 void UseFakeFont(std::vector<FakeGlyph> glyphs);
 
-/// From now on every face maps only its first few characters, which load faster than all.
+/// From now on every face maps only its first characters, to load faster.
 void UseFirst(int characters);
 
 #endif

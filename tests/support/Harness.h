@@ -1,9 +1,9 @@
 /// @file
-/// What the tests see of, and do to, the calls that the library makes.
+/// Records the library's calls, and makes chosen ones fail.
 ///
-/// The test programs define EGL's, GL's, FreeType's, the log's and memset_s's symbols themselves
-/// (Interpose*.cpp), note each call, and pass it on to the real function unless a fault is set.
-/// Calls that a driver or FreeType makes of its own are passed on unseen.
+/// The test programs define the symbols of EGL, GL, FreeType, the log and memset_s (Interpose*.cpp).
+/// These functions record each call and pass it on to the real function, unless a fault is set.
+/// Calls by a driver or by FreeType are passed on without a record.
 #ifndef ZOGLES_TESTS_SUPPORT_HARNESS_H
 #define ZOGLES_TESTS_SUPPORT_HARNESS_H
 
@@ -35,7 +35,7 @@ struct LogLine {
 };
 std::ostream& operator<<(std::ostream& out, const LogLine& line);
 
-/// One argument as calls are written: numbers as they are, pointers as "null" or "data".
+/// Writes an argument of a recorded call: a number, "null" or "data".
 template <typename Value>
 void WriteArgument(std::ostream& out, Value value) {
     if constexpr (std::is_same_v<Value, const char*>) {
@@ -47,7 +47,7 @@ void WriteArgument(std::ostream& out, Value value) {
     }
 }
 
-/// A call as it is noted: "glViewport(0, 0, 64, 48)".
+/// A recorded call: "glViewport(0, 0, 64, 48)".
 template <typename... Args>
 std::string Call(const char* name, Args... args) {
     std::ostringstream out;
@@ -58,7 +58,7 @@ std::string Call(const char* name, Args... args) {
     return out.str();
 }
 
-/// What the interposed functions note and how they are told to behave.
+/// What the interposed functions record, and how they behave.
 struct State {
     std::vector<LogLine> log;
 
@@ -83,7 +83,7 @@ struct State {
 };
 State& Current();
 
-/// Forgets everything noted and every fault, but not the live objects.
+/// Drops all records and faults, except the live objects.
 void Reset();
 
 /// Makes a call of `name` fail: the `nth` from now on, 1 being the next.
@@ -92,22 +92,22 @@ void FailCall(const std::string& name, int nth = 1);
 /// How often `name` was called since the last `Reset`.
 int CountOf(const std::string& name);
 
-/// The lines logged since the last call, which forgets them.
+/// Removes and returns the lines logged so far.
 std::vector<LogLine> TakeLog();
 
-/// What is alive, as text: "texture 3, buffer 1"; empty when nothing is.
+/// The live objects: "texture 3, buffer 1".
 std::string DescribeLive();
 
-/// Runs `action` and returns the GL, EGL and FreeType calls it made.
+/// Runs `action` and returns its GL, EGL and FreeType calls.
 std::vector<std::string> Record(const std::function<void()>& action);
 
-/// Runs `action` and returns how many heap allocations the library itself made.
+/// Runs `action` and counts the library's heap allocations.
 int CountAllocations(const std::function<void()>& action);
 
 /// Refuses the library's `nth` allocation, 1 being the next; 0 refuses none.
 void RefuseAllocation(int nth);
 
-/// While one lives, the thread is inside the harness or a driver: nothing is noted or counted.
+/// Marks the thread as inside the harness or a driver: its calls are neither recorded nor counted.
 class Outside {
 public:
     Outside();
@@ -115,14 +115,14 @@ public:
     Outside(const Outside&) = delete;
     Outside& operator=(const Outside&) = delete;
 
-    /// Whether the thread was outside already, so that a driver or FreeType is calling.
+    /// Whether the thread was marked already: a driver or FreeType is calling.
     bool IsNested() const { return nested; }
 
 private:
     bool nested;
 };
 
-/// Keeps a call while recording.
+/// Records a call, if recording is on.
 template <typename... Args>
 void NoteCall(const char* name, Args... args) {
     if (Current().isRecording) {
@@ -130,14 +130,14 @@ void NoteCall(const char* name, Args... args) {
     }
 }
 
-/// Counts a call and says whether it is to fail.
+/// Counts a call. True if it must fail.
 bool CountCall(const char* name);
 
-/// Nothing is noted of object 0, which stands for none.
+/// Ignores object 0, which means none.
 void AddLive(const char* kind, size_t object);
 void RemoveLive(const char* kind, size_t object);
 
-/// The next definition of a symbol after the test program's own.
+/// The definition of a symbol behind the test program's.
 void* NextSymbol(const char* name);
 
 } // namespace harness

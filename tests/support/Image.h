@@ -1,5 +1,5 @@
 /// @file
-/// Pixels read back, and their comparison with what a formula says.
+/// Pixels read back, and their comparison with a formula.
 #ifndef ZOGLES_TESTS_SUPPORT_IMAGE_H
 #define ZOGLES_TESTS_SUPPORT_IMAGE_H
 
@@ -27,9 +27,9 @@ struct Image {
 /// Reads the bound framebuffer.
 Image ReadPixels(int width, int height);
 
-/// Whether every pixel is what `expected` says of (x, y), to within `tolerance` a channel. If not,
-/// names the first that is not and leaves the image, and one with the wrong pixels in red, as PNG
-/// files in the folder that ZOGLES_TEST_ARTIFACTS names, else the working folder.
+/// Whether every pixel (x, y) equals `expected(x, y)` within `tolerance` per channel. If not, names
+/// the first wrong pixel, and saves the image and one with the wrong pixels in red as PNG files in
+/// the folder ZOGLES_TEST_ARTIFACTS, or else in the working folder.
 ::testing::AssertionResult
 Matches(const Image& image, const std::function<Pixel(int x, int y)>& expected, int tolerance = 0);
 

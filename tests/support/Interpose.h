@@ -5,8 +5,8 @@
 
 #include "support/Harness.h"
 
-/// Opens the body of an interposed function: finds the `real` one, passes on what is not the
-/// library's call, and notes the call. `isFailing` then says whether a fault is set.
+/// Opens the body of an interposed function: finds the `real` one, passes on calls that are not the
+/// library's, and records the others. `isFailing` is true if a fault is set.
 /// @param arguments in parentheses
 #define INTERPOSE(name, arguments)                                                                 \
     static const auto real = reinterpret_cast<decltype(&name)>(harness::NextSymbol(#name));        \
@@ -18,7 +18,7 @@
     noteCall arguments;                                                                            \
     [[maybe_unused]] const bool isFailing = harness::CountCall(#name)
 
-/// A whole function that only passes on, and that yields 0, null or nothing where a fault is set.
+/// A function that passes on its call. Returns 0, null or nothing if a fault is set.
 #define PASS_ON(Return, name, parameters, arguments)                                               \
     extern "C" Return name parameters {                                                            \
         using Result = Return;                                                                     \
@@ -26,8 +26,8 @@
         return isFailing ? Result() : real arguments;                                              \
     }
 
-/// A whole function that ends the life of an object of that kind. Where a fault is set it does so
-/// too, and reports the failure that is given: nobody can ask a second time.
+/// A function that destroys an object of that kind. If a fault is set, it destroys the object, too,
+/// and returns `failure`: no caller can try again.
 #define END_LIFE(Return, name, kind, object, failure, parameters, arguments)                       \
     extern "C" Return name parameters {                                                            \
         INTERPOSE(name, arguments);                                                                \

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Attributes are worth seeing: they go behind the call.
+// Appends the attributes to the recorded call.
 void NoteAttributes(const EGLint* list) {
     if (harness::Current().isRecording) {
         for (; list != nullptr && *list != EGL_NONE; ++list) {

@@ -9,7 +9,7 @@ constexpr FT_Error injectedError = FT_Err_Out_Of_Memory;
 
 } // namespace
 
-// A whole function that reports an error, and does nothing, where a fault is set.
+// A function that returns an error and does nothing if a fault is set.
 #define FAIL_OR_PASS_ON(name, parameters, arguments)                                               \
     extern "C" FT_Error name parameters {                                                          \
         INTERPOSE(name, arguments);                                                                \
@@ -39,7 +39,7 @@ extern "C" FT_Error FT_Load_Char(FT_Face face, FT_ULong code, FT_Int32 flags) {
                                        : real(face, code, flags);
 }
 
-// A walk over the characters that breaks off looks like the end of the font.
+// A failing step over the characters looks like the end of the font.
 extern "C" FT_ULong FT_Get_First_Char(FT_Face face, FT_UInt* index) {
     INTERPOSE(FT_Get_First_Char, (face, index));
     if (isFailing) {

@@ -52,7 +52,7 @@ PASS_ON(void, glVertexAttribPointer,
         (index, size, type, normalised, stride, offset))
 PASS_ON(void, glViewport, (GLint x, GLint y, GLsizei width, GLsizei height), (x, y, width, height))
 
-// The four floats of a colour are worth seeing.
+// Records the four floats of a colour.
 extern "C" void glUniform4fv(GLint location, GLsizei count, const GLfloat* value) {
     INTERPOSE(glUniform4fv, (location, count, value));
     if (harness::Current().isRecording) {
@@ -95,7 +95,7 @@ extern "C" void glGetIntegerv(GLenum name, GLint* value) {
     }
 }
 
-// A failing query leaves the value as it was, which is how a lost context behaves.
+// A failing query does not change the value, as with a lost context.
 #define QUERY(name)                                                                                \
     extern "C" void name(GLuint object, GLenum what, GLint* value) {                               \
         INTERPOSE(name, (object, what, value));                                                    \
@@ -119,7 +119,7 @@ QUERY(glGetProgramiv)
 LOCATE(glGetAttribLocation)
 LOCATE(glGetUniformLocation)
 
-// The library makes and deletes one object at a time; a driver that has none left yields 0.
+// The library creates and deletes one object at a time. A driver that cannot create one returns 0.
 #define GENERATE(name, kind)                                                                       \
     extern "C" void name(GLsizei count, GLuint* objects) {                                         \
         INTERPOSE(name, (count, objects));                                                         \

@@ -3,7 +3,7 @@
 #include <cstdarg>
 #include <cstdio>
 
-// The log is captured, not shown: a test says what it expects of it.
+// Captures the log for comparison.
 extern "C" int __android_log_print(int prio, const char* tag, const char* fmt, ...) {
     const harness::Outside outside;
     va_list args;
@@ -21,7 +21,7 @@ extern "C" int memset_s(void* dest, size_t destSize, int value, size_t count) {
     return isFailing ? refused : real(dest, destSize, value, count);
 }
 
-// Drivers stay loaded, so that the leak checker knows a leak of theirs by the driver's name.
+// Drivers stay loaded, so that the leak checker can name the driver of a leak.
 extern "C" int dlclose(void*) {
     return 0;
 }

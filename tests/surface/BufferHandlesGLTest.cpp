@@ -51,8 +51,8 @@ TEST_F(BufferHandlesGLTest, RestoresRecordedBuffersClearedUnderTheirHandles) {
         EXPECT_EQ(Target(handle).width, 10 * static_cast<int>(handle - 0x10000));
         EXPECT_TRUE(Matches(Read(handle), Empty));
     }
-    // Restored buffers fill the slots from the lowest, so numbers and slots part company: the next
-    // slot's number is taken, and the lowest that is not is 1.
+    // Restored buffers fill the slots from the lowest, so numbers and slots differ: the next slot's
+    // number is used, and the lowest unused number is 1.
     EXPECT_EQ(surface->fboManager->slots[1].handle, 0x10002U);
     EXPECT_EQ(CreateBuffer(6, 6), 0x10001U);
     std::set<unsigned int> handles = {0x10001, 0x10002, 0x10004, 0x10005};
@@ -70,7 +70,7 @@ TEST_F(BufferHandlesGLTest, RestoresRecordedBuffersClearedUnderTheirHandles) {
                             [&](unsigned int handle) { return IsThere(handle); }));
 }
 
-TEST_F(BufferHandlesGLTest, KeepsRecordsAndTheirHandlesAfterDrawingWhileUnbound) {
+TEST_F(BufferHandlesGLTest, NeverReissuesARecordedHandle) {
     Bind();
     CreateBuffer(4, 3);
     CreateBuffer(5, 3);
@@ -103,7 +103,7 @@ TEST_F(BufferHandlesGLTest, KeepsRecordsAndTheirHandlesAfterDrawingWhileUnbound)
     EXPECT_EQ(Table(), full);
 }
 
-TEST_F(BufferHandlesGLTest, ANewPoolByItsFlagReplacesTheOneThereIs) {
+TEST_F(BufferHandlesGLTest, ReplacesThePoolOnlyByItsFlag) {
     Bind();
     const unsigned int handle = CreateBuffer(4, 3);
     surface->FBOManagerInit(~0x20U);
@@ -113,7 +113,7 @@ TEST_F(BufferHandlesGLTest, ANewPoolByItsFlagReplacesTheOneThereIs) {
     EXPECT_EQ(Table(), "10001:4x3");
 }
 
-TEST_F(BufferHandlesGLTest, ABufferWithoutAFramebufferLeavesTheWindowAlone) {
+TEST_F(BufferHandlesGLTest, NeverDrawsOnTheWindowForABufferWithoutAFramebuffer) {
     Bind();
     Fill(ZO_WINDOW_HANDLE, filling);
     harness::FailCall("glGenFramebuffers");

@@ -1,7 +1,7 @@
 cmake_minimum_required(VERSION 3.21)
 
-# Compares what LIBRARY exports, as NM tells, with LIST, Debian's file of symbols. What is exported
-# stays exported for good, so a change of the list is to be thought over.
+# Compares the symbols that LIBRARY exports, by NM, with LIST, Debian's file of symbols. Exports are
+# permanent, so think before you change the list.
 execute_process(COMMAND "${NM}" -D -C --defined-only "${LIBRARY}"
   OUTPUT_VARIABLE lines RESULT_VARIABLE result)
 if(result)
@@ -10,7 +10,7 @@ endif()
 string(REPLACE "\n" ";" lines "${lines}")
 list(TRANSFORM lines REPLACE "^[0-9a-f]* *[A-Za-z] " "")
 list(FILTER lines EXCLUDE REGEX "^$")
-list(REMOVE_DUPLICATES lines) # the kinds of a constructor look alike
+list(REMOVE_DUPLICATES lines) # variants of a constructor have the same name
 file(STRINGS "${LIST}" listed REGEX "@Base")
 list(TRANSFORM listed REPLACE "^ (\\(c[+][+]\\)\")?(.*)@Base.*" "\\2")
 set(missing ${listed})

@@ -3,7 +3,7 @@
 
 #include <climits>
 
-TEST(ConversionsTest, CarriesEveryFieldOfATextRequest) {
+TEST(ConversionsTest, CopiesEveryFieldOfATextRequest) {
     const tagZoTextInfo in = {u"text", 4, {255, 0, 0, 51}, {0, 51, 1, 255}, 11, 22, 33, 44, 55};
     tagTextInfo out = {};
     ZoGLDrawSurface().SetTextInfo(&in, &out);
@@ -18,7 +18,7 @@ TEST(ConversionsTest, CarriesEveryFieldOfATextRequest) {
     EXPECT_EQ(out.text, in.text);
 }
 
-TEST(ConversionsTest, FoldsCodesIntoThePublicOnes) {
+TEST(ConversionsTest, MapsInternalCodesToPublicOnes) {
     const std::set<int> kept = {1, 2, 3, 4, 5, 10, 13, 14, 15, 20, 30, 31, 32, 100, 101};
     for (int code = -2; code <= 300; ++code) {
         EXPECT_EQ(ToError(code), kept.count(code) != 0 ? code : code == 12 ? 11 : 100) << code;

@@ -76,7 +76,7 @@ TEST_F(LifecycleGLTest, KeepsThePoolsRecordAtASecondWindowSize) {
     ExpectWindowSize(200, 100);
 }
 
-TEST_F(LifecycleGLTest, DropsItsPartsInOrder) {
+TEST_F(LifecycleGLTest, ReleasesComponentsInOrder) {
     Bind();
     CreateBuffer(4, 4);
     for (const bool isReset : {true, false}) {
@@ -87,7 +87,7 @@ TEST_F(LifecycleGLTest, DropsItsPartsInOrder) {
             return std::find_if(calls.begin(), calls.end(),
                                 [=](const std::string& call) { return call.find(name) == 0; });
         };
-        // Letting go of the window ends the context first; a reset does it last.
+        // Releasing the window destroys the context first; a reset destroys it last.
         ASSERT_TRUE(find("eglDestroyContext") != calls.end());
         EXPECT_EQ(find("glDeleteProgram") < find("eglDestroyContext"), isReset);
         EXPECT_EQ(find("glDeleteFramebuffers") < find("eglDestroyContext"), isReset);

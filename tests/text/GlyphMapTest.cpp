@@ -17,7 +17,7 @@ Codes CodesOf(const GlyphMap& map) {
 
 } // namespace
 
-TEST(GlyphMapTest, WalksByAscendingCodeWhateverTheOrderOfInsertion) {
+TEST(GlyphMapTest, VisitsCodesInAscendingOrder) {
     GlyphMap map;
     EXPECT_TRUE(map.empty() && map.begin() == map.end());
     // Both ends of pages and planes, and pages that start lower than the one before ends.
@@ -46,7 +46,7 @@ TEST(GlyphMapTest, WalksByAscendingCodeWhateverTheOrderOfInsertion) {
     EXPECT_EQ(map.size(), codes.size()) << "looking up inserts nothing";
 }
 
-TEST(GlyphMapTest, CopiesShareUntilOneIsWrittenTo) {
+TEST(GlyphMapTest, SharesTheTableUntilACopyIsWrittenTo) {
     GlyphMap original;
     original[65].advanceX = 1;
     GlyphMap copy = original;

@@ -1,5 +1,5 @@
 /// @file
-/// Text composed on the CPU from FreeType's own bitmaps, without the library's atlases.
+/// Text composed on the CPU from FreeType's bitmaps, without the library's atlases.
 #ifndef ZOGLES_TESTS_TEXT_REFERENCEFONT_H
 #define ZOGLES_TESTS_TEXT_REFERENCEFONT_H
 
@@ -27,7 +27,7 @@ public:
     void Blend(Image& image, std::u16string_view text, const Style& style, int x, int y);
 
 private:
-    /// Renders a glyph, or says that there is none or that it leaves no mark.
+    /// Renders a glyph. False if the font has none or its bitmap is empty.
     bool Load(char16_t unit, const Style& style);
 
     int Advance() const { return static_cast<int>(face->glyph->advance.x >> 6); }

@@ -15,7 +15,7 @@ protected:
         return vertices;
     }
 
-    // Whether only the first vertices of the upload are used.
+    // Whether the vertices from `first` on are zero.
     bool IsZeroFrom(size_t first) const {
         const std::vector<Corner> vertices = Vertices();
         return std::count(vertices.begin() + static_cast<long>(first), vertices.end(), Corner()) ==

@@ -44,7 +44,7 @@ Image TextFixture::Drawn(std::u16string_view text, const Style& style) {
     Image expected = shown;
     std::fill(expected.pixels.begin(), expected.pixels.end(), background);
     ReferenceFont(path).Blend(expected, text, style, x, y);
-    // The driver rounds coverage when it samples and again as it blends.
+    // Drivers round when they sample and again when they blend.
     constexpr int tolerance = 2;
     return Matches(
         shown, [&](int column, int row) { return expected.At(column, row); }, tolerance);

@@ -26,7 +26,7 @@ protected:
     int Draw(std::u16string_view text, const Style& style = {}, unsigned int x = 10,
              unsigned int y = 60);
 
-    /// The buffer's pixels after it is cleared and a text drawn.
+    /// Clears the buffer, draws a text and returns the pixels.
     Image Drawn(std::u16string_view text, const Style& style = {});
 
     /// Whether the buffer shows a text over a background, as FreeType and the blend formula give it.
@@ -34,7 +34,7 @@ protected:
                                      const char* path = sansPath, int x = 10, int y = 60,
                                      const Pixel& background = {});
 
-    unsigned int buffer = 0; ///< what texts are drawn into
+    unsigned int buffer = 0; ///< the target of texts
 };
 
 #endif

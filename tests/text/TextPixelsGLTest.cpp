@@ -15,7 +15,7 @@ protected:
 
 } // namespace
 
-TEST_F(TextPixelsGLTest, AreFreeTypesOwnBlendedByTheFormula) {
+TEST_F(TextPixelsGLTest, AreFreeTypesBitmapsBlendedByTheFormula) {
     Load();
     const struct {
         const char* name;
@@ -52,7 +52,7 @@ TEST_F(TextPixelsGLTest, AreFreeTypesOwnBlendedByTheFormula) {
     EXPECT_TRUE(Shows(u"Window", {}));
 }
 
-TEST_F(TextPixelsGLTest, BoldIsHeavierAtEverySizeAndCutsNothing) {
+TEST_F(TextPixelsGLTest, BoldIsHeavierAtEverySizeAndNeverCut) {
     Load();
     const FontStyleAtlas& atlas = *surface->fontStyleAtlas;
     for (const unsigned int size : {12U, 20U, 40U, 96U}) {
@@ -65,7 +65,7 @@ TEST_F(TextPixelsGLTest, BoldIsHeavierAtEverySizeAndCutsNothing) {
             EXPECT_GT(boldInk, plainInk + plainInk / 20);
             EXPECT_TRUE(Shows(text, {size, true, true}));
             EXPECT_EQ(bold.advanceX, plain.advanceX);
-            // A pixel more each way, give or take where it falls, and the texture has room for it.
+            // One pixel more each way, or up to two after rounding, and the texture fits.
             EXPECT_NEAR(bold.bitmapWidth, plain.bitmapWidth + 1, 1);
             EXPECT_NEAR(bold.bitmapHeight, plain.bitmapHeight + 1, 1);
             EXPECT_EQ(static_cast<float>(atlas.GetFontTextureWidth()), bold.bitmapWidth + 1);
