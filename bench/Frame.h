@@ -74,7 +74,7 @@ struct Frame {
         for (unsigned int i = 0; i < 40; ++i) {
             std::string text = "Line";
             while (text.size() < 30) {
-                const size_t step = i * 11 + text.size() * 7;
+                const size_t step = size_t{i} * 11 + text.size() * 7;
                 text += static_cast<char>(firstGlyph + step % (lastGlyph - firstGlyph + 1));
             }
             lines.push_back({text,
