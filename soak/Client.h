@@ -14,11 +14,10 @@ struct Counts {
     long frames;
     long texts;
     long fonts;
-    long buffers;
     long losses;
 };
 
-/// Throws std::runtime_error as soon as the library does something else than its header says.
+/// Throws std::runtime_error if a result differs from what the library's header documents.
 class Client {
 public:
     /// @param damagedFontPath a file that is no font
@@ -53,7 +52,6 @@ private:
     void ShowBitmap(unsigned int width, unsigned int height);
     void CreateBuffer(unsigned int width, unsigned int height);
     void CreateAnyBuffer();
-    void FillPool();
     void DestroyBuffer(size_t index);
     void LoadAnyFont();
     void LoadFont(const char* path, unsigned int size);

@@ -42,8 +42,8 @@ void Soak(double seconds, const std::string& folder) {
         }
         if (now >= nextLine || now >= seconds) {
             nextLine = now + 10;
-            printf("%.0f s: %ld frames, %ld texts, %ld fonts, %ld buffers, %ld losses\n", now,
-                   counts.frames, counts.texts, counts.fonts, counts.buffers, counts.losses);
+            printf("%.0f s: %ld frames, %ld texts, %ld fonts, %ld losses\n", now, counts.frames,
+                   counts.texts, counts.fonts, counts.losses);
             fflush(stdout);
         }
     }

@@ -1,6 +1,7 @@
 #include "Sample.h"
 
 #include <GLES2/gl2.h>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -19,33 +20,26 @@ long ReadStatus(const std::string& wanted) {
     return value;
 }
 
-using IsObject = GLboolean (*)(GLuint);
-
-int CountBelow(IsObject isObject, GLuint end) {
+// Names ascend, so new ones are above all others.
+int CountObjects() {
+    GLuint names[3] = {};
+    glGenTextures(1, &names[0]);
+    glGenBuffers(1, &names[1]);
+    glGenFramebuffers(1, &names[2]);
+    const GLuint program = glCreateProgram();
+    const GLuint end = std::max({names[0], names[1], names[2], program});
+    glDeleteTextures(1, &names[0]);
+    glDeleteBuffers(1, &names[1]);
+    glDeleteFramebuffers(1, &names[2]);
+    glDeleteProgram(program);
     int count = 0;
     for (GLuint name = 1; name < end; ++name) {
-        count += isObject(name) == GL_TRUE ? 1 : 0;
+        for (const auto isObject :
+             {glIsTexture, glIsBuffer, glIsFramebuffer, glIsProgram, glIsShader}) {
+            count += isObject(name) == GL_TRUE ? 1 : 0;
+        }
     }
     return count;
-}
-
-// Names ascend, so a new one is above all others.
-template <typename Generate, typename Delete>
-int CountGenerated(IsObject isObject, Generate generate, Delete remove) {
-    GLuint end = 0;
-    generate(1, &end);
-    const int count = CountBelow(isObject, end);
-    remove(1, &end);
-    return count;
-}
-
-int CountObjects() {
-    const GLuint end = glCreateProgram();
-    const int programs = CountBelow(glIsProgram, end) + CountBelow(glIsShader, end);
-    glDeleteProgram(end);
-    return programs + CountGenerated(glIsTexture, glGenTextures, glDeleteTextures) +
-           CountGenerated(glIsBuffer, glGenBuffers, glDeleteBuffers) +
-           CountGenerated(glIsFramebuffer, glGenFramebuffers, glDeleteFramebuffers);
 }
 
 } // namespace
