@@ -7,11 +7,12 @@
 
 constexpr int windowWidth = 1280;
 constexpr int windowHeight = 720;
+constexpr tagZoRectInfo wholeWindow = {0, 0, windowWidth, windowHeight};
 
 /// Whether GL draws. Without a driver, several surfaces can be bound at once.
 extern const bool hasDriver;
 
-/// The program's one window, of the size above.
+/// Opens a window of the size above.
 ANativeWindow* OpenWindow();
 
 /// Makes FreeType enumerate only the first characters of each font; 0 means all.

@@ -1,27 +1,27 @@
-// The benchmarks, on a real driver or on none.
+// The benchmarks, with a real driver or without a driver.
 //   zogles_bench [options of Google Benchmark]
-//   zogles_bench --check                    whether floor and library draw the same pixels
-//   zogles_bench --memory FRAMES LOSSES     what stays behind after so many of each
-//   zogles_bench --repeat PATTERN COUNT     the cases that match, for callgrind: dumps the counts of
-//                                           each under its name
+//   zogles_bench --check                    whether baseline and library draw the same pixels
+//   zogles_bench --repeat PATTERN COUNT     runs the cases that match, for callgrind: dumps the
+//                                           counts of each under its name
 
 #include "Cases.h"
-#include "Memory.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <cstdlib>
-#include <regex>
 #include <valgrind/callgrind.h>
 
 namespace {
+
+// Part of the font suffices for counting instructions: whole fonts take minutes under valgrind.
+constexpr unsigned int countedCharacters = 256;
 
 void Measure(benchmark::State& state, Side& side, int batch) {
     WarmUp(side);
     glFinish();
     while (state.KeepRunningBatch(batch)) {
         side.run(batch);
-        glFinish(); // the driver's part belongs to the cost as well
+        glFinish(); // what the driver does later is part of the cost
     }
     state.SetItemsProcessed(state.iterations());
 }
@@ -31,7 +31,7 @@ void Register(std::vector<Case>& cases) {
         for (Side& side : work.sides) {
             benchmark::RegisterBenchmark((work.name + '/' + side.name).c_str(), Measure,
                                          std::ref(side), work.batch)
-                ->MeasureProcessCPUTime(); // the driver's threads included
+                ->MeasureProcessCPUTime(); // includes the driver's threads
         }
     }
 }
@@ -43,9 +43,9 @@ std::vector<unsigned char> ReadWindow() {
 }
 
 int Check(Stage& stage, std::vector<Case>& cases) {
-    int different = 0;
+    bool areSame = true;
     for (Case& work : cases) {
-        if (work.sides.size() < 2) {
+        if (work.sides.back().name != "baseline") {
             continue;
         }
         std::vector<unsigned char> shown[2];
@@ -57,22 +57,22 @@ int Check(Stage& stage, std::vector<Case>& cases) {
             }
             shown[i] = ReadWindow();
         }
-        const bool isSame = shown[0] == shown[1];
-        printf("%s: %s\n", work.name.c_str(), isSame ? "same pixels" : "DIFFERENT PIXELS");
-        different += isSame ? 0 : 1;
+        if (shown[0] != shown[1]) {
+            printf("%s: library and baseline draw different pixels\n", work.name.c_str());
+            areSame = false;
+        }
     }
-    return different == 0 ? 0 : 1;
+    return areSame ? 0 : 1;
 }
 
-void Repeat(std::vector<Case>& cases, const char* pattern, int wanted) {
-    const std::regex wantedNames(pattern);
+void Repeat(std::vector<Case>& cases, const std::regex& wanted, int most) {
     for (Case& work : cases) {
         for (Side& side : work.sides) {
             const std::string name = work.name + '/' + side.name;
-            if (!std::regex_search(name, wantedNames)) {
+            if (!std::regex_search(name, wanted)) {
                 continue;
             }
-            const int count = work.batch > 1 ? wanted : 5; // what takes long is done less often
+            const int count = work.batch > 1 ? most : 5; // slow cases are repeated less
             const std::string label = name + ' ' + std::to_string(count);
             WarmUp(side);
             CALLGRIND_ZERO_STATS;
@@ -82,40 +82,27 @@ void Repeat(std::vector<Case>& cases, const char* pattern, int wanted) {
     }
 }
 
-void Append(std::vector<Case>&& more, std::vector<Case>* cases) {
-    for (Case& work : more) {
-        cases->push_back(std::move(work));
-    }
-}
-
 } // namespace
 
 // NOLINTNEXTLINE(bugprone-exception-escape): without memory there is nothing to measure
 int main(int argc, char** argv) {
-    // Before the first call, which reads it; a variable of the caller's stands.
-    setenv("ANDROID_LOG_TAGS", "*:S", 0);
+    setenv("ANDROID_LOG_TAGS", "*:S", 0); // the first call reads it
     benchmark::Initialize(&argc, argv);
     const std::string mode = argc > 1 ? argv[1] : "";
-    if (mode == "--memory" && argc == 4) {
-        PrintMemory(atoi(argv[2]), atoi(argv[3]));
-        return 0;
-    }
-    if (FontPath().empty()) {
-        fprintf(stderr, "no font: see ZOGLES_BENCH_FONT in bench/Stage.cpp\n");
-        return 1;
-    }
-    const char* limit = getenv("ZOGLES_BENCH_FONT_CHARACTERS");
-    Stage stage(FontPath(), limit == nullptr ? 0 : static_cast<unsigned int>(atoi(limit)), 2);
-    std::vector<Case> cases = BasicCases(stage);
+    const bool isCounting = mode == "--repeat" && argc == 4;
+    const std::regex wanted(isCounting ? argv[2] : benchmark::GetBenchmarkFilter());
+    const unsigned int characters = isCounting ? countedCharacters : 0;
+    Stages more;
+    Stage stage(fontPath, characters, 2);
+    std::vector<Case> cases = BasicCases(stage, characters);
     if (mode == "--check") {
         return Check(stage, cases);
     }
-    Append(TextGrowthCases(stage), &cases);
-    if (!hasDriver) {
-        Append(SurfaceGrowthCases(), &cases);
+    for (Case& work : GrowthCases(stage, wanted, &more)) {
+        cases.push_back(std::move(work));
     }
-    if (mode == "--repeat" && argc == 4) {
-        Repeat(cases, argv[2], atoi(argv[3]));
+    if (isCounting) {
+        Repeat(cases, wanted, atoi(argv[3]));
         return 0;
     }
     Register(cases);

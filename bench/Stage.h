@@ -1,55 +1,50 @@
 /// @file
-/// What both contestants draw on, and the inputs they share.
+/// What the library and the baseline draw on, and the inputs that they share.
 #ifndef ZOGLES_BENCH_STAGE_H
 #define ZOGLES_BENCH_STAGE_H
 
-#include "Driver.h"
-#include "Floor.h"
+#include "Baseline.h"
+#include "Frame.h"
 
 #include <string>
 
-constexpr size_t longestText = 100000;
-constexpr unsigned int fontSize = 40;
-constexpr tagZoRectInfo wholeWindow = {0, 0, windowWidth, windowHeight};
+constexpr char fontPath[] = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
+/// A font with tens of thousands of characters.
+constexpr char largeFontPath[] = "/usr/share/fonts/opentype/unifont/unifont.otf";
 
 /// Text without spaces, of so many units.
-std::u16string Line(size_t length);
+std::u16string Words(size_t length);
 
 /// The text of a request in one colour.
 tagZoTextInfo Request(const std::u16string& text, tagZoColorRGBA color);
 
-/// The colour as the floor takes it.
-Floor::Color ToFloorColor(tagZoColorRGBA color);
+Baseline::Color ToFloats(tagZoColorRGBA color);
 
-/// The font of most cases, and one with tens of thousands of characters; empty if not installed.
-std::string FontPath();
-std::string LargeFontPath();
-
-/// A surface that is bound from the start, so that what comes after it finds its context.
+/// A surface bound on construction: members after it find its context current.
 struct BoundSurface : ZoGLDrawSurface {
     BoundSurface();
 };
 
-/// A bound surface with a font and with buffers, and a floor that shares its context.
+/// A bound surface with a font and buffers, and a baseline in the same context.
 class Stage {
 public:
-    /// @param fontPath,characters the font, cut to so many characters; 0 means all
+    /// @param font,characters the font, cut to so many characters; 0 means all
     /// @param buffers how many buffers the library has, two at least
-    Stage(const std::string& fontPath, unsigned int characters, int buffers);
+    Stage(const char* font, unsigned int characters, int buffers);
 
-    /// Gives both sides' buffers the same known content.
+    /// Gives both sides' buffers the same content.
     void Reset();
 
-    /// Shows the first buffer on the window, by either side.
+    /// Shows the first buffer on the window.
     void Show(bool isLibrary);
 
     BoundSurface surface;
-    unsigned int target; ///< the library's buffers
-    unsigned int source;
-    unsigned int last; ///< the one created last
-    Floor floor;
-    Floor::Target floorTarget;
-    Floor::Target floorSource;
+    unsigned int target = ZO_NO_HANDLE; ///< the library's buffers
+    unsigned int source = ZO_NO_HANDLE;
+    unsigned int last = ZO_NO_HANDLE; ///< the one created last
+    Baseline byHand;
+    Baseline::Target handTarget;
+    Baseline::Target handSource;
 };
 
 #endif

@@ -2,7 +2,6 @@
 // sdl-cached keeps each line as a texture, for lines that never change; sdl-atlas keeps the glyphs
 // in one texture and draws them with SDL_RenderGeometry; sdl-anew renders each line in each frame.
 
-#include "Frame.h"
 #include "Support.h"
 
 #include <SDL.h>
@@ -11,24 +10,25 @@
 
 namespace {
 
-SDL_Rect ToRect(const Area& area) {
-    return {area.x, area.y, area.width, area.height};
+SDL_Rect ToRect(const tagZoRectInfo& area) {
+    return {static_cast<int>(area.x), static_cast<int>(area.y), static_cast<int>(area.width),
+            static_cast<int>(area.height)};
 }
 
-SDL_Color ToColor(const Shade& shade) {
-    return {shade.r, shade.g, shade.b, 255};
+SDL_Color ToColor(const tagZoColorRGBA& color) {
+    return {color.r, color.g, color.b, 255};
 }
 
 void DrawTiles(SDL_Renderer* renderer, const std::vector<Tile>& tiles) {
     for (const Tile& tile : tiles) {
         const SDL_Rect rect = ToRect(tile.area);
-        SDL_SetRenderDrawColor(renderer, tile.shade.r, tile.shade.g, tile.shade.b, 255);
+        SDL_SetRenderDrawColor(renderer, tile.color.r, tile.color.g, tile.color.b, 255);
         SDL_RenderFillRect(renderer, &rect);
     }
 }
 
 SDL_Texture* RenderLine(SDL_Renderer* renderer, TTF_Font* font, const Line& line) {
-    SDL_Surface* rendered = TTF_RenderUTF8_Blended(font, line.text.c_str(), ToColor(line.shade));
+    SDL_Surface* rendered = TTF_RenderUTF8_Blended(font, line.text.c_str(), ToColor(line.color));
     SDL_Texture* texture = SDL_CreateTextureFromSurface(renderer, rendered);
     SDL_FreeSurface(rendered);
     Require(texture != nullptr, SDL_GetError());
@@ -36,7 +36,8 @@ SDL_Texture* RenderLine(SDL_Renderer* renderer, TTF_Font* font, const Line& line
 }
 
 void CopyLine(SDL_Renderer* renderer, TTF_Font* font, const Line& line, SDL_Texture* texture) {
-    SDL_Rect place = {line.x, line.baseline - TTF_FontAscent(font), 0, 0};
+    SDL_Rect place = {static_cast<int>(line.x),
+                      static_cast<int>(line.baseline) - TTF_FontAscent(font), 0, 0};
     SDL_QueryTexture(texture, nullptr, nullptr, &place.w, &place.h);
     SDL_RenderCopy(renderer, texture, nullptr, &place);
 }
@@ -47,7 +48,7 @@ class GlyphAtlas {
 public:
     GlyphAtlas(SDL_Renderer* usedRenderer, TTF_Font* font)
         : renderer(usedRenderer), ascent(TTF_FontAscent(font)) {
-        Line all = {"", 0, 0, {255, 255, 255}};
+        Line all = {"", 0, 0, {255, 255, 255, 255}};
         for (char c = firstGlyph; c <= lastGlyph; ++c) {
             all.text += c;
             int left = 0;
@@ -65,9 +66,10 @@ public:
         vertices.clear();
         indices.clear();
         for (const Line& line : lines) {
-            int x = line.x;
+            int x = static_cast<int>(line.x);
             for (const char c : line.text) {
-                AddGlyph(c - firstGlyph, x, line.baseline - ascent, ToColor(line.shade));
+                AddGlyph(c - firstGlyph, x, static_cast<int>(line.baseline) - ascent,
+                         ToColor(line.color));
                 x += advance;
             }
         }
@@ -98,7 +100,7 @@ private:
     int advance = 0;
     int width = 0;
     int height = 0;
-    std::vector<SDL_Rect> boxes; // where each glyph leaves a mark within its cell
+    std::vector<SDL_Rect> boxes; // the visible part of each glyph within its cell
     std::vector<SDL_Vertex> vertices;
     std::vector<int> indices;
 };
@@ -108,7 +110,7 @@ SDL_Renderer* OpenRenderer() {
     SDL_SetHint(SDL_HINT_RENDER_DRIVER, "opengles2");
     SDL_SetHint(SDL_HINT_RENDER_BATCHING, "1");
     Require(SDL_Init(SDL_INIT_VIDEO) == 0 && TTF_Init() == 0, SDL_GetError());
-    SDL_Window* window = SDL_CreateWindow("peers", 0, 0, frameWidth, frameHeight, 0);
+    SDL_Window* window = SDL_CreateWindow("peers", 0, 0, windowWidth, windowHeight, 0);
     Require(window != nullptr, SDL_GetError());
     SDL_Renderer* renderer = SDL_CreateRenderer(
         window, -1, SDL_RENDERER_ACCELERATED | SDL_RENDERER_TARGETTEXTURE); // without vsync
@@ -118,10 +120,10 @@ SDL_Renderer* OpenRenderer() {
     return renderer;
 }
 
-SDL_Texture* MakeTexture(SDL_Renderer* renderer, SDL_TextureAccess access, int width, int height,
-                         SDL_BlendMode blending) {
-    SDL_Texture* texture =
-        SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGBA32, access, width, height);
+SDL_Texture* MakeTexture(SDL_Renderer* renderer, SDL_TextureAccess access, SDL_BlendMode blending,
+                         unsigned int width, unsigned int height) {
+    SDL_Texture* texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGBA32, access,
+                                             static_cast<int>(width), static_cast<int>(height));
     Require(texture != nullptr, SDL_GetError());
     SDL_SetTextureBlendMode(texture, blending);
     return texture;
@@ -130,42 +132,41 @@ SDL_Texture* MakeTexture(SDL_Renderer* renderer, SDL_TextureAccess access, int w
 } // namespace
 
 int main(int argc, char** argv) {
+    const Frame frame;
     SDL_Renderer* renderer = OpenRenderer();
-    TTF_Font* font = TTF_OpenFont(fontPath, fontSize);
-    Require(font != nullptr, fontPath);
-    SDL_Texture* composed = MakeTexture(renderer, SDL_TEXTUREACCESS_TARGET, frameWidth, frameHeight,
-                                        SDL_BLENDMODE_BLEND);
-    SDL_Texture* source = MakeTexture(renderer, SDL_TEXTUREACCESS_TARGET, sourceWidth, sourceHeight,
-                                      SDL_BLENDMODE_NONE);
-    SDL_Texture* bitmap = MakeTexture(renderer, SDL_TEXTUREACCESS_STREAMING, bitmapArea.width,
-                                      bitmapArea.height, SDL_BLENDMODE_BLEND);
+    TTF_Font* font = TTF_OpenFont(frameFontPath, fontSize);
+    Require(font != nullptr, frameFontPath);
+    SDL_Texture* composed = MakeTexture(renderer, SDL_TEXTUREACCESS_TARGET, SDL_BLENDMODE_BLEND,
+                                        windowWidth, windowHeight);
+    SDL_Texture* source = MakeTexture(renderer, SDL_TEXTUREACCESS_TARGET, SDL_BLENDMODE_NONE,
+                                      sourceWidth, sourceHeight);
+    SDL_Texture* bitmap = MakeTexture(renderer, SDL_TEXTUREACCESS_STREAMING, SDL_BLENDMODE_BLEND,
+                                      bitmapArea.width, bitmapArea.height);
     SDL_SetRenderTarget(renderer, source);
-    DrawTiles(renderer, MakeSourceTiles());
+    DrawTiles(renderer, frame.sourceTiles);
 
-    const std::vector<Tile> rectangles = MakeRectangles();
-    const std::vector<Copy> copies = MakeCopies();
-    const std::vector<Line> lines = MakeLines();
-    const std::vector<unsigned char> pixels = MakeBitmap();
     const SDL_Rect bitmapPlace = ToRect(bitmapArea);
 
     std::function<void()> drawLines;
     const std::string variant = argc > 1 ? argv[1] : "";
     if (variant == "sdl-cached") {
         std::vector<SDL_Texture*> textures;
-        for (const Line& line : lines) {
+        for (const Line& line : frame.lines) {
             textures.push_back(RenderLine(renderer, font, line));
         }
-        drawLines = [renderer, font, &lines, textures] {
-            for (size_t i = 0; i < lines.size(); ++i) {
-                CopyLine(renderer, font, lines[i], textures[i]);
+        drawLines = [renderer, font, &frame, textures] {
+            for (size_t i = 0; i < textures.size(); ++i) {
+                CopyLine(renderer, font, frame.lines[i], textures[i]);
             }
         };
     } else if (variant == "sdl-atlas") {
-        drawLines = [&lines, atlas = GlyphAtlas(renderer, font)]() mutable { atlas.Draw(lines); };
+        drawLines = [&frame, atlas = GlyphAtlas(renderer, font)]() mutable {
+            atlas.Draw(frame.lines);
+        };
     } else {
         Require(variant == "sdl-anew", "a name of sdl-cached, sdl-atlas or sdl-anew");
-        drawLines = [renderer, font, &lines] {
-            for (const Line& line : lines) {
+        drawLines = [renderer, font, &frame] {
+            for (const Line& line : frame.lines) {
                 SDL_Texture* texture = RenderLine(renderer, font, line);
                 CopyLine(renderer, font, line, texture);
                 SDL_DestroyTexture(texture);
@@ -180,16 +181,16 @@ int main(int argc, char** argv) {
     Contestant contestant;
     contestant.draw = [&] {
         SDL_SetRenderTarget(renderer, composed);
-        DrawTiles(renderer, rectangles);
-        for (const Copy& copy : copies) {
-            const SDL_Rect from = {copy.srcX, copy.srcY, copy.dst.width, copy.dst.height};
+        DrawTiles(renderer, frame.rectangles);
+        for (const Copy& copy : frame.copies) {
+            const SDL_Rect from = ToRect(copy.src);
             const SDL_Rect to = ToRect(copy.dst);
             SDL_RenderCopy(renderer, source, &from, &to);
         }
         drawLines();
         SDL_SetRenderTarget(renderer, nullptr);
         clearWindow();
-        SDL_UpdateTexture(bitmap, nullptr, pixels.data(), bitmapArea.width * 4);
+        SDL_UpdateTexture(bitmap, nullptr, frame.bitmap.data(), bitmapPlace.w * 4);
         SDL_RenderCopy(renderer, bitmap, nullptr, &bitmapPlace);
         clearWindow();
         SDL_RenderCopy(renderer, composed, nullptr, nullptr);

@@ -1,23 +1,15 @@
 #include "Support.h"
 
-#include "Frame.h"
-
 #include <EGL/egl.h>
 #include <GLES2/gl2.h>
-#include <X11/Xlib.h>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <png.h>
 
 namespace {
 
 // The first frames compile shaders and grow pools.
 constexpr int warmUpFrames = 20;
-
-EGLDisplay eglDisplay = EGL_NO_DISPLAY;
-EGLSurface eglSurface = EGL_NO_SURFACE;
 
 double Now(clockid_t clock) {
     timespec time{};
@@ -31,21 +23,20 @@ struct Times {
     double process = Now(CLOCK_PROCESS_CPUTIME_ID);
 };
 
+// As PPM, without alpha: the window's alpha is not visible.
 void WritePicture(const char* path) {
-    std::vector<unsigned char> pixels(static_cast<size_t>(frameWidth * frameHeight * 4));
+    std::vector<unsigned char> pixels(size_t{windowWidth} * windowHeight * 4);
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
-    glReadPixels(0, 0, frameWidth, frameHeight, GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
-    // What a viewer gets to see: the window's alpha has no meaning on the screen.
-    for (size_t i = 3; i < pixels.size(); i += 4) {
-        pixels[i] = 255;
+    glReadPixels(0, 0, windowWidth, windowHeight, GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
+    FILE* file = fopen(path, "wb");
+    Require(file != nullptr, path);
+    fprintf(file, "P6\n%d %d\n255\n", windowWidth, windowHeight);
+    for (size_t row = windowHeight; row-- > 0;) { // GL's rows start at the bottom
+        for (size_t x = 0; x < windowWidth; ++x) {
+            fwrite(&pixels[(row * windowWidth + x) * 4], 1, 3, file);
+        }
     }
-    png_image image{};
-    image.version = PNG_IMAGE_VERSION;
-    image.width = frameWidth;
-    image.height = frameHeight;
-    image.format = PNG_FORMAT_RGBA;
-    const int bottomUp = -frameWidth * 4; // GL's rows start at the bottom
-    Require(png_image_write_to_file(&image, path, 0, pixels.data(), bottomUp, nullptr) != 0, path);
+    Require(fclose(file) == 0, path);
 }
 
 } // namespace
@@ -57,55 +48,32 @@ void Require(bool isFine, const char* what) {
     }
 }
 
-unsigned long OpenWindow() {
-    Display* const display = XOpenDisplay(nullptr);
-    Require(display != nullptr, "opening the X display");
-    const Window window = XCreateSimpleWindow(display, XDefaultRootWindow(display), 0, 0,
-                                              frameWidth, frameHeight, 0, 0, 0);
-    XMapWindow(display, window);
-    XSync(display, False);
-    return window;
-}
-
 void OpenContext() {
-    eglDisplay = eglGetDisplay(EGL_DEFAULT_DISPLAY);
-    Require(eglInitialize(eglDisplay, nullptr, nullptr) == EGL_TRUE, "eglInitialize");
-    const EGLint configAttributes[] = {EGL_SURFACE_TYPE,
-                                       EGL_WINDOW_BIT,
-                                       EGL_RENDERABLE_TYPE,
-                                       EGL_OPENGL_ES2_BIT,
-                                       EGL_RED_SIZE,
-                                       8,
-                                       EGL_GREEN_SIZE,
-                                       8,
-                                       EGL_BLUE_SIZE,
-                                       8,
-                                       EGL_ALPHA_SIZE,
-                                       8,
-                                       EGL_NONE};
+    const EGLDisplay display = eglGetDisplay(EGL_DEFAULT_DISPLAY);
+    Require(eglInitialize(display, nullptr, nullptr) == EGL_TRUE, "eglInitialize");
+    const EGLint wanted[] = {EGL_RENDERABLE_TYPE, EGL_OPENGL_ES2_BIT, EGL_ALPHA_SIZE, 8, EGL_NONE};
     EGLConfig config = nullptr;
     EGLint count = 0;
-    eglChooseConfig(eglDisplay, configAttributes, &config, 1, &count);
+    eglChooseConfig(display, wanted, &config, 1, &count);
     Require(count == 1, "eglChooseConfig");
-    const EGLint contextAttributes[] = {EGL_CONTEXT_CLIENT_VERSION, 2, EGL_NONE};
-    const EGLContext context =
-        eglCreateContext(eglDisplay, config, EGL_NO_CONTEXT, contextAttributes);
-    eglSurface = eglCreateWindowSurface(eglDisplay, config,
-                                        static_cast<EGLNativeWindowType>(OpenWindow()), nullptr);
-    Require(eglMakeCurrent(eglDisplay, eglSurface, eglSurface, context) == EGL_TRUE,
-            "eglMakeCurrent");
+    const EGLint version[] = {EGL_CONTEXT_CLIENT_VERSION, 2, EGL_NONE};
+    const EGLContext context = eglCreateContext(display, config, EGL_NO_CONTEXT, version);
+    const EGLSurface surface = eglCreateWindowSurface(
+        display, config, reinterpret_cast<EGLNativeWindowType>(OpenWindow()), nullptr);
+    Require(eglMakeCurrent(display, surface, surface, context) == EGL_TRUE, "eglMakeCurrent");
     TurnOffVsync();
 }
 
 void SwapContext() {
-    eglSwapBuffers(eglDisplay, eglSurface);
+    eglSwapBuffers(eglGetCurrentDisplay(), eglGetCurrentSurface(EGL_DRAW));
 }
 
-unsigned int MakeTexture(int width, int height) {
+unsigned int MakeTexture(unsigned int width, unsigned int height) {
     GLuint texture = 0;
     glGenTextures(1, &texture);
     glBindTexture(GL_TEXTURE_2D, texture);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, width, height, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, static_cast<GLsizei>(width),
+                 static_cast<GLsizei>(height), 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);

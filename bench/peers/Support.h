@@ -1,29 +1,28 @@
 /// @file
-/// What the contestants share besides the frame: the window, the timing and the picture.
+/// What the contestants share besides the frame: context, timing and picture.
 #ifndef ZOGLES_BENCH_PEERS_SUPPORT_H
 #define ZOGLES_BENCH_PEERS_SUPPORT_H
+
+#include "Frame.h"
 
 #include <functional>
 
 /// Ends the program with a message unless `isFine`.
 void Require(bool isFine, const char* what);
 
-/// Opens an X11 window of the frame's size and returns its id.
-unsigned long OpenWindow();
-
-/// Makes an OpenGL ES 2.0 context current on such a window, as a user of plain EGL would.
+/// Makes an OpenGL ES 2.0 context current on a window of the frame's size, by plain EGL.
 void OpenContext();
 void SwapContext();
 
 /// Makes an RGBA texture in the current context, without defined content, and leaves it bound.
-unsigned int MakeTexture(int width, int height);
+unsigned int MakeTexture(unsigned int width, unsigned int height);
 
-/// The libraries wait for the display by default where a driver can; the benchmark must not.
+/// By default, swapping waits for the display if the driver can; the benchmark must not wait.
 void TurnOffVsync();
 
 struct Contestant {
     std::function<void()> draw;          ///< a whole frame up to the swap
-    std::function<void()> flush = [] {}; ///< hands draw calls that the library holds back to GL
+    std::function<void()> flush = [] {}; ///< passes draw calls that the library holds back to GL
     std::function<void()> swap;
 };
 

@@ -1,6 +1,10 @@
-#include "Floor.h"
+#include "Baseline.h"
 
 namespace {
+
+using Box = Baseline::Box;
+using Target = Baseline::Target;
+using Vertex = Baseline::Vertex;
 
 constexpr char rectVertex[] = "attribute vec4 vPosition;\n"
                               "void main() { gl_Position = vPosition; }\n";
@@ -39,26 +43,7 @@ GLuint NewBuffer() {
     return buffer;
 }
 
-} // namespace
-
-// Both kinds of program have one attribute, which the driver puts at location 0.
-Floor::Floor(int width, int height, size_t longestText)
-    : windowWidth(width), windowHeight(height), rectProgram(Program(rectVertex, rectFragment)),
-      textProgram(Program(quadVertex, textFragment)),
-      rectColor(glGetUniformLocation(rectProgram, "color")),
-      textColor(glGetUniformLocation(textProgram, "color")),
-      textTexture(glGetUniformLocation(textProgram, "tex")), rectBuffer(NewBuffer()),
-      textBuffer(NewBuffer()), blitQuad(MakeQuad()), frameQuad(MakeQuad()), bitmapQuad(MakeQuad()),
-      vertices(6 * longestText) {
-    standard.glyphs.resize(0x10000);
-    styled.glyphs.resize(0x10000);
-}
-
-Floor::~Floor() {
-    CloseFace(&styledFont);
-}
-
-GLuint Floor::Program(const char* vertexSource, const char* fragmentSource) {
+GLuint Program(const char* vertexSource, const char* fragmentSource) {
     const GLuint program = glCreateProgram();
     glAttachShader(program, Compile(GL_VERTEX_SHADER, vertexSource));
     glAttachShader(program, Compile(GL_FRAGMENT_SHADER, fragmentSource));
@@ -66,41 +51,88 @@ GLuint Floor::Program(const char* vertexSource, const char* fragmentSource) {
     return program;
 }
 
-Floor::Target Floor::CreateTarget(int width, int height) {
+Baseline::Quad MakeQuad() {
+    const GLuint program = Program(quadVertex, quadFragment);
+    return {program, glGetUniformLocation(program, "tex"), NewBuffer()};
+}
+
+Box VertexBox(const tagZoRectInfo& rect, int targetWidth, int targetHeight) {
+    const float width = static_cast<float>(targetWidth);
+    const float height = static_cast<float>(targetHeight);
+    const float left = 2.0f * static_cast<float>(rect.x) / width - 1.0f;
+    const float top = 1.0f - 2.0f * static_cast<float>(rect.y) / height;
+    return {left, left + 2.0f * static_cast<float>(rect.width) / width, top,
+            top - 2.0f * static_cast<float>(rect.height) / height};
+}
+
+Box TextureBox(const tagZoRectInfo& rect, int targetWidth, int targetHeight) {
+    const float width = static_cast<float>(targetWidth);
+    const float height = static_cast<float>(targetHeight);
+    const float left = static_cast<float>(rect.x) / width;
+    const float top = 1.0f - static_cast<float>(rect.y) / height;
+    return {left, left + static_cast<float>(rect.width) / width, top,
+            top - static_cast<float>(rect.height) / height};
+}
+
+void SetTextureParameters() {
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+}
+
+void DrawQuad(const Baseline::Quad& quad, GLuint texture, const Vertex (&corners)[4]) {
+    glActiveTexture(GL_TEXTURE0);
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glUniform1i(quad.texture, 0);
+    glEnableVertexAttribArray(0);
+    glBindBuffer(GL_ARRAY_BUFFER, quad.buffer);
+    glVertexAttribPointer(0, 4, GL_FLOAT, GL_FALSE, 0, nullptr);
+    glBufferData(GL_ARRAY_BUFFER, sizeof(corners), corners, GL_DYNAMIC_DRAW);
+    glDrawElements(GL_TRIANGLES, 6, GL_UNSIGNED_SHORT, quadIndices);
+}
+
+void ClearWindow(const Target& window) {
+    glBindFramebuffer(GL_FRAMEBUFFER, 0);
+    glViewport(0, 0, window.width, window.height);
+    glClearColor(0.0f, 0.0f, 0.0f, 0.0f);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+}
+
+} // namespace
+
+// Each program has one attribute, which the driver puts at location 0.
+Baseline::Baseline(size_t longestText)
+    : window{0, 0, windowWidth, windowHeight}, rectProgram(Program(rectVertex, rectFragment)),
+      textProgram(Program(quadVertex, textFragment)),
+      rectColor(glGetUniformLocation(rectProgram, "color")),
+      textColor(glGetUniformLocation(textProgram, "color")),
+      textTexture(glGetUniformLocation(textProgram, "tex")), rectBuffer(NewBuffer()),
+      textBuffer(NewBuffer()), blitQuad(MakeQuad()), frameQuad(MakeQuad()), bitmapQuad(MakeQuad()),
+      vertices(6 * longestText) {
+    FT_Init_FreeType(&freetype);
+}
+
+Baseline::~Baseline() {
+    FT_Done_FreeType(freetype); // and its faces
+}
+
+Target Baseline::CreateTarget(int width, int height) {
     Target target = {0, 0, width, height};
     glActiveTexture(GL_TEXTURE0);
     glGenTextures(1, &target.texture);
     glBindTexture(GL_TEXTURE_2D, target.texture);
     glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, width, height, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+    SetTextureParameters();
     glGenFramebuffers(1, &target.framebuffer);
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, target.texture, 0);
-    glClearColor(0.0f, 0.0f, 0.0f, 0.0f);
-    glClear(GL_COLOR_BUFFER_BIT);
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
     glBindTexture(GL_TEXTURE_2D, 0);
     return target;
 }
 
-Floor::Box Floor::VertexBox(const tagZoRectInfo& rect, int width, int height) {
-    const float left = 2.0f * static_cast<float>(rect.x) / static_cast<float>(width) - 1.0f;
-    const float top = 1.0f - 2.0f * static_cast<float>(rect.y) / static_cast<float>(height);
-    return {left, left + 2.0f * static_cast<float>(rect.width) / static_cast<float>(width), top,
-            top - 2.0f * static_cast<float>(rect.height) / static_cast<float>(height)};
-}
-
-Floor::Box Floor::TextureBox(const tagZoRectInfo& rect, int width, int height) {
-    const float left = static_cast<float>(rect.x) / static_cast<float>(width);
-    const float top = 1.0f - static_cast<float>(rect.y) / static_cast<float>(height);
-    return {left, left + static_cast<float>(rect.width) / static_cast<float>(width), top,
-            top - static_cast<float>(rect.height) / static_cast<float>(height)};
-}
-
-void Floor::FillRect(const Target& target, const tagZoRectInfo& rect, const Color& color) const {
+void Baseline::FillRect(const Target& target, const tagZoRectInfo& rect, const Color& color) const {
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glViewport(0, 0, target.width, target.height);
     glUseProgram(rectProgram);
@@ -121,31 +153,8 @@ void Floor::FillRect(const Target& target, const tagZoRectInfo& rect, const Colo
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
 }
 
-Floor::Quad Floor::MakeQuad() {
-    const GLuint program = Program(quadVertex, quadFragment);
-    return {program, glGetUniformLocation(program, "tex"), NewBuffer()};
-}
-
-void Floor::DrawQuad(const Quad& quad, GLuint texture, const Vertex (&corners)[4]) {
-    glActiveTexture(GL_TEXTURE0);
-    glBindTexture(GL_TEXTURE_2D, texture);
-    glUniform1i(quad.texture, 0);
-    glEnableVertexAttribArray(0);
-    glBindBuffer(GL_ARRAY_BUFFER, quad.buffer);
-    glVertexAttribPointer(0, 4, GL_FLOAT, GL_FALSE, 0, nullptr);
-    glBufferData(GL_ARRAY_BUFFER, sizeof(corners), corners, GL_DYNAMIC_DRAW);
-    glDrawElements(GL_TRIANGLES, 6, GL_UNSIGNED_SHORT, quadIndices);
-}
-
-void Floor::ClearWindow() const {
-    glBindFramebuffer(GL_FRAMEBUFFER, 0);
-    glViewport(0, 0, windowWidth, windowHeight);
-    glClearColor(0.0f, 0.0f, 0.0f, 0.0f);
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-}
-
-void Floor::Blit(const Target& from, const Target& to, const tagZoRectInfo& src,
-                 const tagZoRectInfo& dst) {
+void Baseline::Blit(const Target& from, const Target& to, const tagZoRectInfo& src,
+                    const tagZoRectInfo& dst) const {
     const Box pos = VertexBox(dst, to.width, to.height);
     const Box tex = TextureBox(src, from.width, from.height);
     glBindFramebuffer(GL_FRAMEBUFFER, to.framebuffer);
@@ -162,10 +171,11 @@ void Floor::Blit(const Target& from, const Target& to, const tagZoRectInfo& src,
     glBindFramebuffer(GL_FRAMEBUFFER, 0);
 }
 
-void Floor::Present(const Target& from, const tagZoRectInfo& src, const tagZoRectInfo& dst) {
-    const Box pos = VertexBox(dst, windowWidth, windowHeight);
+void Baseline::Present(const Target& from, const tagZoRectInfo& src,
+                       const tagZoRectInfo& dst) const {
+    const Box pos = VertexBox(dst, window.width, window.height);
     const Box tex = TextureBox(src, from.width, from.height);
-    ClearWindow();
+    ClearWindow(window);
     glUseProgram(frameQuad.program);
     glEnable(GL_BLEND);
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
@@ -180,24 +190,21 @@ void Floor::Present(const Target& from, const tagZoRectInfo& src, const tagZoRec
     glBindTexture(GL_TEXTURE_2D, 0);
 }
 
-void Floor::ShowBitmap(const unsigned char* pixels, int width, int height,
-                       const tagZoRectInfo& rect) {
+void Baseline::ShowBitmap(const tagZoBitmapInfo& bitmap) const {
     GLuint texture = 0;
     glActiveTexture(GL_TEXTURE0);
     glGenTextures(1, &texture);
     glBindTexture(GL_TEXTURE_2D, texture);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, width, height, 0, GL_RGBA, GL_UNSIGNED_BYTE, pixels);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, static_cast<GLsizei>(bitmap.width),
+                 static_cast<GLsizei>(bitmap.height), 0, GL_RGBA, GL_UNSIGNED_BYTE, bitmap.data);
     glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+    SetTextureParameters();
     glBindTexture(GL_TEXTURE_2D, 0);
-    ClearWindow();
+    ClearWindow(window);
     glUseProgram(bitmapQuad.program);
     glEnable(GL_BLEND);
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
-    const Box pos = VertexBox(rect, windowWidth, windowHeight);
+    const Box pos = VertexBox(bitmap.rect, window.width, window.height);
     DrawQuad(bitmapQuad, texture,
              {{pos.left, pos.top, 0.0f, 0.0f},
               {pos.right, pos.top, 1.0f, 0.0f},

@@ -1,0 +1,78 @@
+/// @file
+/// A client that uses every operation at random, loses its window, and checks every result.
+#ifndef ZOGLES_SOAK_CLIENT_H
+#define ZOGLES_SOAK_CLIENT_H
+
+#include "zogles/ZoGLDrawSurface.h"
+
+#include <X11/Xlib.h>
+#include <random>
+#include <string>
+#include <vector>
+
+struct Counts {
+    long frames;
+    long texts;
+    long fonts;
+    long losses;
+};
+
+/// Throws std::runtime_error if a result differs from what the library's header documents.
+class Client {
+public:
+    /// @param damagedFontPath a file that is no font
+    Client(unsigned int seed, std::string damagedFontPath);
+
+    /// Does one random thing that clients do: mostly a frame.
+    /// @param mayLose whether the window may be lost
+    void Step(bool mayLose);
+
+    /// Brings the client to the same state every time: bound, no buffers, one font, every component
+    /// in use. Checks on the way that the whole pool of buffers is available.
+    /// @param loses whether the window is lost first
+    void Settle(bool loses);
+
+    const Counts& GetCounts() const { return counts; }
+
+private:
+    struct Buffer {
+        unsigned int handle;
+        unsigned int width;
+        unsigned int height;
+    };
+
+    void OpenWindow();
+    void Bind();
+    void BindOther();
+    void Lose();
+    void Frame();
+    void DrawRect();
+    void Blit();
+    void DrawText();
+    void ShowBitmap(unsigned int width, unsigned int height);
+    void CreateBuffer(unsigned int width, unsigned int height);
+    void CreateAnyBuffer();
+    void DestroyBuffer(size_t index);
+    void LoadAnyFont();
+    void LoadFont(const char* path, unsigned int size);
+    void CallInError();
+    void CheckPixel();
+
+    unsigned int AnyBelow(unsigned int end) { return static_cast<unsigned int>(random() % end); }
+    bool OneIn(unsigned int count) { return AnyBelow(count) == 0; }
+    const Buffer& AnyBuffer();
+    tagZoRectInfo AnyRect(unsigned int width, unsigned int height);
+    tagZoColorRGBA AnyColor();
+    tagZoTextInfo AnyText();
+
+    std::mt19937 random;
+    std::string damagedFont;
+    Display* display; ///< stays open until the process ends, so that windows outlive the surface
+    Window window = 0;
+    ZoGLDrawSurface surface;
+    std::vector<Buffer> buffers;
+    std::u16string text;
+    Counts counts = {};
+};
+
+#endif
