@@ -104,10 +104,9 @@ int Canvas::MeasureText(std::u16string_view text) {
     return static_cast<int>(width);
 }
 
-void Canvas::Present(unsigned int buffer, const Rect& source) {
-    const tagZoRectInfo from = ToRecord(source);
-    const tagZoRectInfo to = ToRecord(GetWindowRect());
-    Check(surface.ZoDisplayFBO(buffer, &from, &to), "presenting a buffer");
+void Canvas::Present(unsigned int buffer, const Rect& part) {
+    const tagZoRectInfo rect = ToRecord(part);
+    Check(surface.ZoDisplayFBO(buffer, &rect, &rect), "presenting a buffer");
 }
 
 void Canvas::ShowPicture(const Picture& picture, const Rect& rect) {

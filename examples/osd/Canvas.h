@@ -11,8 +11,8 @@
 struct TextStyle {
     Color color;
     unsigned int fontSize;
-    bool bold;
-    bool italic;
+    bool bold = false;
+    bool italic = false;
 };
 
 class Canvas {
@@ -39,8 +39,8 @@ public:
                   int baseline);
     int MeasureText(std::u16string_view text);
 
-    /// Shows a buffer on the whole window.
-    void Present(unsigned int buffer, const Rect& source);
+    /// Clears the window and shows a part of a buffer at the same place.
+    void Present(unsigned int buffer, const Rect& part);
     /// Clears the window and shows a picture on a part of it.
     void ShowPicture(const Picture& picture, const Rect& rect);
     void Refresh();
