@@ -1,12 +1,13 @@
-// A list that scrolls under the keys Up and Down, on a window of SDL's.
+// A list that scrolls with the keys Up and Down, on an SDL window.
 //
 //   menu                  Enter prints the row, Esc leaves
 //   menu --out FILE.png   presses a few keys, saves what the window shows, and ends
 //
-// The rows are drawn once, into a buffer as tall as all of them, and copied from there for every
-// frame. Text is not cut off at a rectangle's edge, but a copy is: so a list is a buffer and a copy.
+// All rows are drawn once into a tall buffer, and each frame copies the visible part. The edge of a
+// rectangle does not clip text, but a copy clips it: so a list is a buffer and a copy.
 
-#include "common/Picture.h" // for --out only
+#include "common/Example.h"
+#include "common/Picture.h"
 
 #include <SDL.h>
 #include <SDL_syswm.h>
@@ -14,19 +15,15 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <string_view>
-#include <zogles/ZoGLDrawSurface.h>
 
 namespace {
 
 constexpr unsigned int width = 640;
 constexpr unsigned int height = 360;
-constexpr unsigned int textSize = 24;     // what the font is loaded at,
-constexpr unsigned int standardSize = 40; // which plain text then asks for by this number
+constexpr unsigned int textSize = 24;
 constexpr unsigned int rowsShown = 6;
 constexpr unsigned int rowHeight = 48;
 constexpr tagZoRectInfo place = {40, 36, 536, rowsShown* rowHeight}; // of the list on the window
-constexpr char fontFile[] = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
 constexpr tagZoColorRGBA ground = {17, 23, 48, 255};
 constexpr tagZoColorRGBA panel = {28, 35, 68, 255};
 // Single words: a space has no width when it is drawn. docs/text.md shows how to lay out lines.
@@ -34,13 +31,6 @@ constexpr std::u16string_view items[] = {u"Aperture", u"Brightness", u"Contrast"
                                          u"Gain",     u"Hue",        u"Language",  u"Network",
                                          u"Rotation", u"Saturation", u"Sharpness", u"Volume"};
 constexpr unsigned int itemCount = std::size(items);
-
-void Check(const char* what, int code) {
-    if (code != ZO_SUCCESS) {
-        fprintf(stderr, "menu: %s failed with code %d\n", what, code);
-        exit(EXIT_FAILURE);
-    }
-}
 
 struct Menu {
     ZoGLDrawSurface& surface;
@@ -54,11 +44,7 @@ struct Menu {
 
     void DrawItem(unsigned int target, unsigned int index, unsigned int x, unsigned int y,
                   const tagZoColorRGBA& color) {
-        tagZoTextInfo text = {};
-        text.text = items[index].data();
-        text.length = static_cast<unsigned int>(items[index].size());
-        text.color = color;
-        text.fontSize = standardSize;
+        const tagZoTextInfo text = ToText(items[index], color);
         const tagZoRectInfo pen = {x + 20, y + 33, 0, 0}; // centres capitals in the row
         Check("text", surface.ZoDrawText(target, &text, &pen));
     }
@@ -72,7 +58,7 @@ struct Menu {
         }
     }
 
-    // Straight on the window, which shows nothing before the refresh.
+    // Draws on the window itself, which shows nothing before the refresh.
     void Draw() {
         Fill(ZO_WINDOW_HANDLE, {0, 0, width, height}, ground);
         const tagZoRectInfo part = {0, first * rowHeight, place.width, place.height};
@@ -81,7 +67,7 @@ struct Menu {
         const unsigned int y = place.y + (chosen - first) * rowHeight;
         Fill(ZO_WINDOW_HANDLE, {place.x, y, place.width, rowHeight}, {255, 200, 87, 255});
         DrawItem(ZO_WINDOW_HANDLE, chosen, place.x, y, ground);
-        // The bar tells how much of the list is seen, and where.
+        // The bar shows which part of the list is visible.
         tagZoRectInfo bar = {place.x + place.width + 16, place.y, 8, place.height};
         Fill(ZO_WINDOW_HANDLE, bar, panel);
         bar.y += first * place.height / itemCount;
@@ -98,19 +84,16 @@ struct Menu {
         } else if (key == SDLK_RETURN) {
             printf("row %u\n", chosen);
         }
-        // The list moves no more than it must to keep the chosen row in sight.
+        // The list scrolls only as far as needed to show the chosen row.
         first = std::max(std::min(first, chosen) + rowsShown, chosen + 1) - rowsShown;
         return event.type != SDL_QUIT && key != SDLK_ESCAPE; // whether the user stays
     }
 };
 
-} // namespace
-
-int main(int argc, char* argv[]) {
-    const char* out = FindOut(argc, argv);
-    setenv("EGL_PLATFORM", "x11", 0);         // our window is X11's on a Wayland desktop, too,
-    SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11"); // and so is SDL's
-    // Not SDL_WINDOW_OPENGL: the library brings its own context.
+// Not SDL_WINDOW_OPENGL: the library creates its own context.
+ANativeWindow* OpenWindow() {
+    setenv("EGL_PLATFORM", "x11", 0); // on a Wayland desktop, too
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11");
     SDL_Window* window = SDL_Init(SDL_INIT_VIDEO) == 0
                              ? SDL_CreateWindow("menu", 0, 0, width, height, SDL_WINDOW_SHOWN)
                              : nullptr;
@@ -118,32 +101,43 @@ int main(int argc, char* argv[]) {
     SDL_VERSION(&info.version);
     if (window == nullptr || SDL_GetWindowWMInfo(window, &info) == SDL_FALSE ||
         info.subsystem != SDL_SYSWM_X11) {
-        fprintf(stderr, "menu: no window: %s\n", SDL_GetError());
-        return EXIT_FAILURE;
+        fprintf(stderr, "menu: no X11 window: %s\n", SDL_GetError());
+        exit(EXIT_FAILURE);
     }
+    return reinterpret_cast<ANativeWindow*>(static_cast<uintptr_t>(info.info.x11.window));
+}
+
+// Presses some keys, for the picture.
+void Press(Menu& menu) {
+    SDL_Event press = {};
+    press.type = SDL_KEYDOWN;
+    for (int i = 0; i < 10; ++i) {
+        press.key.keysym.sym = i < 8 ? SDLK_DOWN : SDLK_UP;
+        menu.Handle(press);
+    }
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    const Arguments arguments = ReadArguments(argc, argv);
     ZoGLDrawSurface surface;
-    auto* native = reinterpret_cast<ANativeWindow*>(static_cast<uintptr_t>(info.info.x11.window));
-    Check("binding", surface.ZoCreateGLWindowSurface(native));
+    Check("binding", surface.ZoCreateGLWindowSurface(OpenWindow()));
     Check("font", surface.ZoLoadFont(fontFile, textSize));
     Menu menu = {surface};
     menu.PaintList();
-    if (out != nullptr) {
-        SDL_Event press = {};
-        press.type = SDL_KEYDOWN;
-        for (int i = 0; i < 10; ++i) {
-            press.key.keysym.sym = i < 8 ? SDLK_DOWN : SDLK_UP;
-            menu.Handle(press);
-        }
+    if (arguments.out != nullptr) {
+        Press(menu);
         menu.Draw();
-        Check("picture", SavePicture(out, width, height) ? ZO_SUCCESS : ZO_FAILURE);
+        WritePng(arguments.out, ReadWindow(surface, width, height));
     }
-    for (bool stays = out == nullptr; stays;) {
+    for (bool stays = arguments.out == nullptr; stays;) {
         menu.Draw();
         Check("refresh", surface.ZoRefreshOnSrceen());
         SDL_Event event;
         stays = SDL_WaitEvent(&event) != 0 && menu.Handle(event);
     }
-    surface.ZoDestoryGLWindowSurface(); // before the window goes
-    SDL_Quit();                         // takes the window along
+    surface.ZoDestoryGLWindowSurface(); // before its window is destroyed
+    SDL_Quit();                         // destroys the window, too
     return EXIT_SUCCESS;
 }

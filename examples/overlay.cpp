@@ -1,53 +1,38 @@
-// A volume bar above all windows: without a border, transparent, and clicked through.
+// A transparent volume bar above all windows, which does not take clicks.
 //
 //   overlay                  for five seconds, on a desktop with a compositor
 //   overlay --out FILE.png   saves what the window shows, and ends
 //
 // Alpha. The window has a visual of depth 32, whose last 8 bits are alpha, and a compositor blends
-// it; without one, what is transparent shows black. Compositors take colours multiplied by alpha.
-// ZoDisplayFBO would leave (r*a, g*a, b*a, a*a): right colours, but too little alpha, so too much of
-// the desktop shines through. So this program multiplies and copies with ZoBlit, which changes
-// nothing.
+// it; without a compositor, transparent parts show black. Compositors expect colours multiplied by
+// alpha. ZoDisplayFBO would leave (r*a, g*a, b*a, a*a): right colours, but too little alpha, so too
+// much of the desktop shows through. So this program multiplies its colours itself and copies them
+// with ZoBlit, which changes nothing.
 //
-// Configuration. EGL has a visual for each of its configurations, EGL_NATIVE_VISUAL_ID. The library
-// takes the first configuration with 8 bits of alpha, and Mesa on X11 may give that one a visual of
-// depth 24. Mesa draws on a window of depth 32 all the same, alpha included. A driver that insists
-// on its own visual refuses the binding with code 5.
+// Configuration. Each EGL configuration names a visual, EGL_NATIVE_VISUAL_ID. The library takes the
+// first configuration with 8 bits of alpha. Mesa on X11 may give that one a visual of depth 24, but
+// draws on a window of depth 32 all the same, alpha included. A driver that insists on its own visual
+// refuses the binding with code 5.
 
-#include "common/Picture.h" // for --out only
+#include "common/XWindow.h"
 
-#include <X11/Xlib.h>
-#include <X11/Xutil.h>
 #include <X11/extensions/Xfixes.h>
 #include <X11/extensions/shapeconst.h>
-#include <cstdint>
-#include <cstdio>
 #include <cstdlib>
-#include <string_view>
 #include <unistd.h>
-#include <zogles/ZoGLDrawSurface.h>
 
 namespace {
 
 constexpr unsigned int width = 640;
 constexpr unsigned int height = 120;
-constexpr unsigned int textSize = 24;     // what the font is loaded at,
-constexpr unsigned int standardSize = 40; // which plain text then asks for by this number
-constexpr unsigned int volume = 65;       // per cent, and as the text below
-constexpr unsigned int figuresWidth = 31; // of that text
-constexpr char fontFile[] = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
+constexpr unsigned int textSize = 24;
+constexpr unsigned int volume = 65;      // per cent
+constexpr unsigned int digitsWidth = 31; // of the volume as text
 
-void Check(const char* what, int code) {
-    if (code != ZO_SUCCESS) {
-        fprintf(stderr, "overlay: %s failed with code %d\n", what, code);
-        exit(EXIT_FAILURE);
-    }
-}
-
-// A colour as compositors take it.
+// A colour as compositors expect it.
 tagZoColorRGBA Multiply(const tagZoColorRGBA& color) {
     const auto scale = [&](unsigned char channel) {
-        // 1 would mean full intensity, like 255; nothing is nearer than 0.
+        // 1 would mean full intensity, like 255, so it becomes 0.
         const int value = (channel * color.a + 127) / 255;
         return static_cast<unsigned char>(value == 1 ? 0 : value);
     };
@@ -60,14 +45,10 @@ void Fill(ZoGLDrawSurface& surface, unsigned int frame, const tagZoRectInfo& rec
     Check("rectangle", surface.ZoDrawRect(frame, &rect, &multiplied));
 }
 
-// Text is blended with its own colour unmultiplied: blending multiplies it.
+// The colour of text is not multiplied here: blending does that.
 void DrawWord(ZoGLDrawSurface& surface, unsigned int frame, std::u16string_view word,
               unsigned int x, unsigned int baseline) {
-    tagZoTextInfo text = {};
-    text.text = word.data();
-    text.length = static_cast<unsigned int>(word.size());
-    text.color = {244, 246, 252, 255};
-    text.fontSize = standardSize;
+    const tagZoTextInfo text = ToText(word, {244, 246, 252, 255});
     const tagZoRectInfo pen = {x, baseline, 0, 0};
     Check("text", surface.ZoDrawText(frame, &text, &pen));
 }
@@ -77,7 +58,7 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame) {
     Fill(surface, frame, all, {0, 0, 0, 0});
     Fill(surface, frame, {16, 16, width - 32, height - 32}, {12, 16, 34, 190});
     DrawWord(surface, frame, u"Volume", 44, 69);
-    DrawWord(surface, frame, u"65", width - 44 - figuresWidth, 69);
+    DrawWord(surface, frame, u"65", width - 44 - digitsWidth, 69);
     constexpr unsigned int parts = 20;
     for (unsigned int i = 0; i < parts; ++i) {
         const bool isLit = i * 100 < volume * parts;
@@ -89,59 +70,41 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame) {
     Check("copy to the window", surface.ZoBlit(&copy));
 }
 
-Window OpenWindow(Display* display) {
-    XVisualInfo info = {};
-    if (display == nullptr ||
-        XMatchVisualInfo(display, XDefaultScreen(display), 32, TrueColor, &info) == 0) {
-        fputs("overlay: no X server, or none with transparent windows\n", stderr);
-        exit(EXIT_FAILURE);
-    }
-    const Window root = XDefaultRootWindow(display);
+// The window manager leaves such a window alone: no frame, no focus, above all others. For a window
+// that it manages, set the property _NET_WM_STATE to _NET_WM_STATE_ABOVE instead, and
+// _MOTIF_WM_HINTS to no decorations.
+void PutAboveAll(XWindow& window) {
+    Display* display = window.GetDisplay();
+    const Window id = window.GetId();
     XSetWindowAttributes wish = {};
-    // Without these two, the server refuses a window of another depth than its parent's.
-    wish.colormap = XCreateColormap(display, root, info.visual, AllocNone);
-    wish.border_pixel = 0;
-    // The window manager leaves such a window alone: no frame, no focus, on top when it is mapped.
-    // To have it managed and kept on top, set the property _NET_WM_STATE to _NET_WM_STATE_ABOVE, and
-    // _MOTIF_WM_HINTS to no decorations, before it is mapped.
     wish.override_redirect = True;
-    const int x = (XDisplayWidth(display, info.screen) - static_cast<int>(width)) / 2;
-    const int y = XDisplayHeight(display, info.screen) - static_cast<int>(height) - 40;
-    const Window window =
-        XCreateWindow(display, root, x, y, width, height, 0, info.depth, InputOutput, info.visual,
-                      CWColormap | CWBorderPixel | CWOverrideRedirect, &wish);
-    // Clicks go to what lies below: the part of the window that takes them is empty.
+    XChangeWindowAttributes(display, id, CWOverrideRedirect, &wish);
+    const int screen = XDefaultScreen(display);
+    XMoveWindow(display, id, (XDisplayWidth(display, screen) - static_cast<int>(width)) / 2,
+                XDisplayHeight(display, screen) - static_cast<int>(height) - 40);
+    // The region that takes clicks is empty, so they go to the window below.
     const XserverRegion empty = XFixesCreateRegion(display, nullptr, 0);
-    XFixesSetWindowShapeRegion(display, window, ShapeInput, 0, 0, empty);
+    XFixesSetWindowShapeRegion(display, id, ShapeInput, 0, 0, empty);
     XFixesDestroyRegion(display, empty);
-    XMapRaised(display, window);
-    XSync(display, False); // EGL talks to the server on a connection of its own
-    return window;
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
-    const char* out = FindOut(argc, argv);
-    setenv("EGL_PLATFORM", "x11", 0); // our window is X11's on a Wayland desktop, too
-    Display* display = XOpenDisplay(nullptr);
-    const Window window = OpenWindow(display);
-
+    const Arguments arguments = ReadArguments(argc, argv);
+    XWindow window(width, height, XWindow::Kind::Transparent);
+    PutAboveAll(window);
     ZoGLDrawSurface surface;
-    auto* native = reinterpret_cast<ANativeWindow*>(static_cast<uintptr_t>(window));
-    Check("binding", surface.ZoCreateGLWindowSurface(native));
+    Check("binding", surface.ZoCreateGLWindowSurface(window.Show()));
     Check("font", surface.ZoLoadFont(fontFile, textSize));
     unsigned int frame = ZO_NO_HANDLE;
     Check("buffer", surface.ZoCreateGLFBO(&frame, width, height, ZO_FORMAT_RGBA8888));
     Draw(surface, frame);
-    if (out != nullptr) {
-        Check("picture", SaveOverlay(out, width, height) ? ZO_SUCCESS : ZO_FAILURE);
+    if (arguments.out != nullptr) {
+        window.Save(surface, arguments.out);
+        return EXIT_SUCCESS;
     }
     Check("refresh", surface.ZoRefreshOnSrceen());
-    if (out == nullptr) {
-        sleep(5);
-    }
-    surface.ZoDestoryGLWindowSurface(); // before the window goes
-    XCloseDisplay(display);             // takes the window along
+    sleep(5);
     return EXIT_SUCCESS;
 }

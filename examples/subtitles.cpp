@@ -1,56 +1,37 @@
-// Subtitles: outlined, centred, faded in and out over whatever lies behind a transparent window.
+// Subtitles: outlined, centred, faded in and out over what is behind a transparent window.
 //
-//   subtitles                                        until a key is pressed
-//   subtitles --out FILE.png                         saves what the window shows, and ends
-//   SUBTITLES_STRENGTH=50 subtitles --out FILE.png   the same in the midst of the fade
+//   subtitles                           until a key is pressed
+//   subtitles --out FILE.png            saves what the window shows after one second, and ends
+//   subtitles --out FILE.png --at 250   saves the middle of the fade
 //
-// The fade. Only text is blended, so its alpha is the strength of the fade. The buffer starts
-// transparent black, and two things then come out well:
-//  - Colours land multiplied by alpha, as compositors take them. ZoBlit puts them on the window as
-//    they are, while ZoDisplayFBO would multiply them once more.
-//  - Text of one alpha over text of the same alpha keeps that alpha, so the copies that make up the
-//    outline are together no stronger than asked for. Their colour would add up: it is black.
+// Only text is blended, so its alpha makes the fade. The buffer starts transparent black, and so:
+//  - Colours land multiplied by alpha, as compositors expect them. ZoBlit copies them to the window
+//    unchanged, while ZoDisplayFBO would multiply them once more.
+//  - Text of one alpha over text of the same alpha keeps that alpha, so the copies of a word that make
+//    up its outline do not add up. Their colours would add up, so the outline is black.
 
-#include "common/Picture.h" // for --out only
+#include "common/XWindow.h"
 
-#include <X11/Xlib.h>
-#include <X11/Xutil.h>
 #include <algorithm>
-#include <chrono>
-#include <cstdint>
-#include <cstdio>
 #include <cstdlib>
-#include <string_view>
-#include <zogles/ZoGLDrawSurface.h>
 
 namespace {
 
 constexpr unsigned int width = 640;
 constexpr unsigned int height = 360;
-constexpr unsigned int textSize = 36;     // what the font is loaded at,
-constexpr unsigned int standardSize = 40; // which plain text then asks for by this number
+constexpr unsigned int textSize = 36;
 constexpr unsigned int spaceWidth = textSize / 3;
 constexpr unsigned int baselines[] = {268, 316};
 constexpr std::u16string_view lines[] = {u"The ferry is late again.", u"Time enough for the tide."};
-constexpr char fontFile[] = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
-
-void Check(const char* what, int code) {
-    if (code != ZO_SUCCESS) {
-        fprintf(stderr, "subtitles: %s failed with code %d\n", what, code);
-        exit(EXIT_FAILURE);
-    }
-}
+constexpr tagZoColorRGBA white = {250, 246, 236, 255};
 
 // Calls place(word, x) for each word of a line and returns the line's width. Words are placed one by
-// one because a space takes no room when it is drawn, and always 30 pixels when it is measured.
+// one because a space that is drawn has no width, and one that is measured always has 30 pixels.
 template <typename Place>
 unsigned int LayOut(ZoGLDrawSurface& surface, std::u16string_view line, Place place) {
     unsigned int pen = 0;
     while (!line.empty()) {
-        tagZoTextInfo word = {};
-        word.text = line.data();
-        word.length = static_cast<unsigned int>(std::min(line.find(u' '), line.size()));
-        word.fontSize = standardSize;
+        const tagZoTextInfo word = ToText(line.substr(0, line.find(u' ')), white);
         place(word, pen);
         unsigned int wordWidth = 0;
         unsigned int unused = 0;
@@ -61,7 +42,7 @@ unsigned int LayOut(ZoGLDrawSurface& surface, std::u16string_view line, Place pl
     return pen > 0 ? pen - spaceWidth : 0;
 }
 
-// The outline is the word itself in black, a little off to all sides. The word goes on top of it.
+// The outline is the word itself in black, moved to all sides. The word goes on top of it.
 void DrawOutlined(ZoGLDrawSurface& surface, unsigned int frame, tagZoTextInfo word, unsigned int x,
                   unsigned int y, unsigned char alpha) {
     const tagZoRectInfo pens[] = {{x - 2, y, 0, 0},     {x + 2, y, 0, 0},     {x, y - 2, 0, 0},
@@ -69,8 +50,8 @@ void DrawOutlined(ZoGLDrawSurface& surface, unsigned int frame, tagZoTextInfo wo
                                   {x - 1, y + 1, 0, 0}, {x + 1, y + 1, 0, 0}, {x, y, 0, 0}};
     for (const tagZoRectInfo& pen : pens) {
         const bool isOnTop = &pen == std::end(pens) - 1;
-        word.color =
-            isOnTop ? tagZoColorRGBA{250, 246, 236, alpha} : tagZoColorRGBA{0, 0, 0, alpha};
+        word.color = isOnTop ? white : tagZoColorRGBA{0, 0, 0, 255};
+        word.color.a = alpha;
         Check("text", surface.ZoDrawText(frame, &word, &pen));
     }
 }
@@ -92,58 +73,23 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame, unsigned int strength) {
     Check("copy to the window", surface.ZoBlit(&copy));
 }
 
-// Half a second to come, two to stay, half to go, half of nothing.
+// Half a second to fade in, two seconds to stay, half a second to fade out, half a second without.
 unsigned int StrengthAt(unsigned int milliseconds) {
     const unsigned int time = milliseconds % 3500;
     return time < 500 ? time / 5 : time < 2500 ? 100 : time < 3000 ? (3000 - time) / 5 : 0;
 }
 
-// A window with alpha; overlay.cpp says more about it.
-Window OpenWindow(Display* display) {
-    XVisualInfo info = {};
-    if (display == nullptr ||
-        XMatchVisualInfo(display, XDefaultScreen(display), 32, TrueColor, &info) == 0) {
-        fputs("subtitles: no X server, or none with transparent windows\n", stderr);
-        exit(EXIT_FAILURE);
-    }
-    XSetWindowAttributes wish = {};
-    wish.colormap = XCreateColormap(display, XDefaultRootWindow(display), info.visual, AllocNone);
-    wish.event_mask = KeyPressMask;
-    const Window window =
-        XCreateWindow(display, XDefaultRootWindow(display), 0, 0, width, height, 0, info.depth,
-                      InputOutput, info.visual, CWColormap | CWBorderPixel | CWEventMask, &wish);
-    XMapWindow(display, window);
-    XSync(display, False); // EGL talks to the server on a connection of its own
-    return window;
-}
-
 } // namespace
 
 int main(int argc, char* argv[]) {
-    const char* out = FindOut(argc, argv);
-    setenv("EGL_PLATFORM", "x11", 0); // our window is X11's on a Wayland desktop, too
-    Display* display = XOpenDisplay(nullptr);
-    const Window window = OpenWindow(display);
+    const Arguments arguments = ReadArguments(argc, argv, 1000);
+    XWindow window(width, height, XWindow::Kind::Transparent);
     ZoGLDrawSurface surface;
-    auto* native = reinterpret_cast<ANativeWindow*>(static_cast<uintptr_t>(window));
-    Check("binding", surface.ZoCreateGLWindowSurface(native));
+    Check("binding", surface.ZoCreateGLWindowSurface(window.Show()));
     Check("font", surface.ZoLoadFont(fontFile, textSize));
     unsigned int frame = ZO_NO_HANDLE;
     Check("buffer", surface.ZoCreateGLFBO(&frame, width, height, ZO_FORMAT_RGBA8888));
-    if (out != nullptr) {
-        const char* wish = getenv("SUBTITLES_STRENGTH");
-        Draw(surface, frame, wish == nullptr ? 100U : unsigned(strtoul(wish, nullptr, 10)));
-        Check("picture", SaveOverlay(out, width, height) ? ZO_SUCCESS : ZO_FAILURE);
-    }
-    const auto start = std::chrono::steady_clock::now();
-    XEvent event;
-    while (out == nullptr && XCheckWindowEvent(display, window, KeyPressMask, &event) == False) {
-        const std::chrono::duration<double, std::milli> time =
-            std::chrono::steady_clock::now() - start;
-        Draw(surface, frame, StrengthAt(static_cast<unsigned int>(time.count())));
-        Check("refresh", surface.ZoRefreshOnSrceen()); // waits for the screen, mostly
-    }
-    surface.ZoDestoryGLWindowSurface(); // before the window goes
-    XCloseDisplay(display);             // takes the window along
+    Animate(window, surface, arguments,
+            [&](unsigned int milliseconds) { Draw(surface, frame, StrengthAt(milliseconds)); });
     return EXIT_SUCCESS;
 }

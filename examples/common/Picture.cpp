@@ -1,84 +1,86 @@
 #include "Picture.h"
 
-#include "../osd/PngFile.h"
-
 #include <GLES2/gl2.h>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <png.h>
 
 namespace {
 
-constexpr int channels = 3;
-constexpr unsigned int bottomMargin = 40; // between an overlay and the foot of the desktop
+constexpr unsigned int bottomMargin = 40; // between the window and the bottom of the desktop
 
-Picture ReadDesktop() {
-    png_image file = {};
-    file.version = PNG_IMAGE_VERSION;
-    Picture desktop;
-    if (png_image_begin_read_from_file(&file, EXAMPLES_DESKTOP) != 0) {
-        file.format = PNG_FORMAT_RGB;
-        desktop.pixels.resize(PNG_IMAGE_SIZE(file));
-        if (png_image_finish_read(&file, nullptr, desktop.pixels.data(), 0, nullptr) != 0) {
-            desktop.width = static_cast<int>(file.width);
-            desktop.height = static_cast<int>(file.height);
-        }
-    }
-    return desktop;
-}
-
-// Puts the window over the lower middle of a screen. What compositors do: colours come multiplied
-// by alpha already, and the screen shines through the rest.
-bool Save(const char* path, unsigned int width, unsigned int height, Picture screen) {
-    const auto screenWidth = static_cast<unsigned int>(screen.width);
-    const auto screenHeight = static_cast<unsigned int>(screen.height);
-    if (screenWidth < width || screenHeight < height) {
-        fprintf(stderr, "%s: the desktop behind it is missing or too small\n", path);
-        return false;
-    }
-    const size_t rowBytes = size_t{width} * 4;
-    std::vector<unsigned char> window(rowBytes * height);
-    glReadPixels(0, 0, static_cast<GLsizei>(width), static_cast<GLsizei>(height), GL_RGBA,
-                 GL_UNSIGNED_BYTE, window.data());
-    const unsigned int left = (screenWidth - width) / 2;
-    const unsigned int top = screenHeight - height - std::min(bottomMargin, screenHeight - height);
-    for (unsigned int y = 0; y < height; ++y) {
-        const unsigned char* pixel = &window[(height - 1 - y) * rowBytes]; // rows from the bottom
-        // cppcheck-suppress redundantInitialization ; for it, the pixels are never read
-        unsigned char* channel =
-            screen.pixels.data() + (size_t{top + y} * screenWidth + left) * channels;
-        for (unsigned int x = 0; x < width; ++x, pixel += 4) {
-            for (int i = 0; i < channels; ++i, ++channel) {
-                const int sum = pixel[i] + (*channel * (255 - pixel[3]) + 127) / 255;
-                *channel = static_cast<unsigned char>(std::min(sum, 255));
-            }
-        }
-    }
-    return glGetError() == GL_NO_ERROR && WritePng(path, screen);
+void Fail(const std::string& path, const char* why) {
+    fprintf(stderr, "%s: %s\n", path.c_str(), why);
+    exit(EXIT_FAILURE);
 }
 
 } // namespace
 
-const char* FindOut(int argc, char* argv[]) {
-    if (argc == 1) {
-        return nullptr;
+// libpng converts any PNG file to this format: red, green, blue and alpha, one byte each.
+Picture ReadPng(const std::string& path) {
+    png_image file = {};
+    file.version = PNG_IMAGE_VERSION;
+    Picture picture;
+    if (png_image_begin_read_from_file(&file, path.c_str()) != 0) {
+        file.format = PNG_FORMAT_RGBA;
+        picture = {file.width, file.height, std::vector<unsigned char>(PNG_IMAGE_SIZE(file))};
+        png_image_finish_read(&file, nullptr, picture.rgba.data(), 0, nullptr);
     }
-    if (argc != 3 || strcmp(argv[1], "--out") != 0) {
-        fputs("the only option is --out FILE.png\n", stderr);
-        exit(EXIT_FAILURE);
+    if (PNG_IMAGE_FAILED(file)) {
+        Fail(path, file.message);
     }
-    return argv[2];
+    return picture;
 }
 
-// A window without transparency shows its colours whatever their alpha, which black behind does.
-bool SavePicture(const char* path, unsigned int width, unsigned int height) {
-    Picture black{static_cast<int>(width), static_cast<int>(height), {}};
-    black.pixels.resize(size_t{width} * height * channels);
-    return Save(path, width, height, std::move(black));
+void WritePng(const std::string& path, const Picture& picture) {
+    std::vector<unsigned char> rgb;
+    for (size_t i = 0; i < picture.rgba.size(); i += 4) {
+        rgb.insert(rgb.end(), &picture.rgba[i], &picture.rgba[i] + 3);
+    }
+    png_image file = {};
+    file.version = PNG_IMAGE_VERSION;
+    file.width = picture.width;
+    file.height = picture.height;
+    file.format = PNG_FORMAT_RGB;
+    if (png_image_write_to_file(&file, path.c_str(), 0, rgb.data(), 0, nullptr) == 0) {
+        Fail(path, file.message);
+    }
 }
 
-bool SaveOverlay(const char* path, unsigned int width, unsigned int height) {
-    return Save(path, width, height, ReadDesktop());
+// The library leaves the window's framebuffer bound. GL's rows start at the bottom.
+Picture ReadWindow(const ZoGLDrawSurface& surface, unsigned int width, unsigned int height) {
+    Picture picture;
+    picture.width = width;
+    picture.height = height;
+    picture.rgba.resize(size_t{width} * height * 4);
+    for (unsigned int y = 0; y < height; ++y) {
+        glReadPixels(0, static_cast<GLint>(surface.ZoGetWindowHeight() - 1 - y),
+                     static_cast<GLsizei>(width), 1, GL_RGBA, GL_UNSIGNED_BYTE,
+                     &picture.rgba[size_t{y} * width * 4]);
+    }
+    return picture;
+}
+
+// The window's colours are multiplied by alpha already; the desktop shows through the rest.
+Picture PutOnDesktop(const Picture& window) {
+    Picture desktop = ReadPng(EXAMPLES_FOLDER "/common/desktop.png");
+    if (desktop.width < window.width || desktop.height < window.height) {
+        Fail(EXAMPLES_FOLDER "/common/desktop.png", "smaller than the window");
+    }
+    const unsigned int left = (desktop.width - window.width) / 2;
+    const unsigned int spare = desktop.height - window.height;
+    const unsigned int top = spare - std::min(bottomMargin, spare);
+    for (unsigned int y = 0; y < window.height; ++y) {
+        for (unsigned int x = 0; x < window.width; ++x) {
+            const unsigned char* from = window.At(x, y);
+            // cppcheck-suppress redundantInitialization ; it does not see that the pixels are read
+            unsigned char* to = &desktop.rgba[(size_t{top + y} * desktop.width + left + x) * 4];
+            std::transform(from, from + 3, to, to, [from](int color, int behind) {
+                const int sum = color + (behind * (255 - from[3]) + 127) / 255;
+                return static_cast<unsigned char>(std::min(sum, 255));
+            });
+        }
+    }
+    return desktop;
 }

@@ -1,14 +1,32 @@
-// What the examples share for --out; a program that saves no pictures needs none of it.
+// PNG files, and pictures of what the bound window shows.
 #ifndef EXAMPLES_COMMON_PICTURE_H
 #define EXAMPLES_COMMON_PICTURE_H
 
-/// What follows --out on the command line, else null. Ends the program when it reads anything else.
-const char* FindOut(int argc, char* argv[]);
+#include <cstddef>
+#include <string>
+#include <vector>
+#include <zogles/ZoGLDrawSurface.h>
 
-/// Saves what is drawn on the bound window and not refreshed yet: afterwards the pixels are gone.
-bool SavePicture(const char* path, unsigned int width, unsigned int height);
+struct Picture {
+    unsigned int width = 0;
+    unsigned int height = 0;
+    std::vector<unsigned char> rgba; ///< four bytes per pixel, rows from the top
 
-/// The same for a transparent window, with a desktop behind it, as a compositor would show it.
-bool SaveOverlay(const char* path, unsigned int width, unsigned int height);
+    const unsigned char* At(unsigned int x, unsigned int y) const {
+        return &rgba[(size_t{y} * width + x) * 4];
+    }
+};
+
+/// Reads a file as `ZoDisplayBitmap` takes it. Ends the program if the file cannot be read.
+Picture ReadPng(const std::string& path);
+
+/// Writes the colours and leaves out alpha. Ends the program if the file cannot be written.
+void WritePng(const std::string& path, const Picture& picture);
+
+/// Reads the window's top-left part. Call it before the refresh, which discards the pixels.
+Picture ReadWindow(const ZoGLDrawSurface& surface, unsigned int width, unsigned int height);
+
+/// Puts the picture of a transparent window on a desktop, as a compositor does.
+Picture PutOnDesktop(const Picture& window);
 
 #endif

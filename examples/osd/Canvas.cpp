@@ -1,58 +1,31 @@
 #include "Canvas.h"
 
 #include <cstdio>
+#include <cstring>
 
 namespace {
 
 constexpr int mostReports = 10;
 
-const char* Describe(int code) {
-    switch (code) {
-    case ZO_NO_DISPLAY:
-        return "EGL has no display";
-    case ZO_DISPLAY_INIT_FAILED:
-        return "the EGL display could not be initialised";
-    case ZO_NO_CONFIG:
-        return "EGL could not choose a configuration";
-    case ZO_NO_CONTEXT:
-        return "the OpenGL ES 2.0 context could not be created";
-    case ZO_NO_WINDOW_SURFACE:
-        return "the EGL window surface could not be created";
-    case ZO_NO_EGL_MANAGER:
-        return "no window is bound";
-    case ZO_NO_FREE_FBO:
-        return "all buffers are in use";
-    case ZO_PROGRAM_FAILED:
-        return "a shader program could not be built";
-    case ZO_FREETYPE_FAILED:
-        return "FreeType could not be initialised";
-    case ZO_FONT_FACE_FAILED:
-        return "the font file could not be opened";
-    case ZO_FONT_ATLAS_EMPTY:
-        return "the font shows nothing";
-    case ZO_INVALID_PARAM:
-        return "a parameter is invalid";
-    case ZO_NO_FBO_MANAGER:
-        return "no buffer was ever created";
-    default:
-        return "general failure";
-    }
-}
-
 tagZoTextInfo ToRecord(std::u16string_view text, const TextStyle& style) {
     tagZoTextInfo info{};
     info.text = text.data();
     info.length = static_cast<unsigned int>(text.size());
-    info.color = ToRecord(style.color);
+    info.color = style.color;
     info.fontSize = style.fontSize;
     info.bold = style.bold ? 1 : 0;
     info.italic = style.italic ? 1 : 0;
     return info;
 }
 
+// Where a row or column of a picture starts that is stretched to a length.
+int Place(int start, int length, unsigned int index, unsigned int count) {
+    return std::max(start + length * static_cast<int>(index) / static_cast<int>(count), 0);
+}
+
 } // namespace
 
-Canvas::Canvas(ZoGLDrawSurface& target) : surface(target), failures(0) {}
+Canvas::Canvas(ZoGLDrawSurface& target) : surface(target) {}
 
 void Canvas::Check(int code, const char* operation) {
     if (code == ZO_SUCCESS) {
@@ -60,10 +33,7 @@ void Canvas::Check(int code, const char* operation) {
     }
     ++failures;
     if (failures <= mostReports) {
-        fprintf(stderr, "zogles-osd: %s: %s (code %d)\n", operation, Describe(code), code);
-    }
-    if (failures == 1) {
-        fprintf(stderr, "zogles-osd: set ANDROID_LOG_TAGS='*:V' to read the library's own log\n");
+        fprintf(stderr, "zogles-osd: %s failed with code %d\n", operation, code);
     }
 }
 
@@ -72,22 +42,8 @@ Rect Canvas::GetWindowRect() const {
             static_cast<int>(surface.ZoGetWindowHeight())};
 }
 
-void Canvas::Bind(ANativeWindow* window) {
-    Check(surface.ZoCreateGLWindowSurface(window), "binding the window");
-}
-
-void Canvas::Unbind() {
-    surface.ZoDestoryGLWindowSurface();
-}
-
-void Canvas::LoadFont(const std::string& path, unsigned int pixels) {
-    Check(surface.ZoLoadFont(path.c_str(), pixels), path.c_str());
-}
-
-void Canvas::CreateComponents() {
-    Check(surface.Init(ZO_COMPONENT_TEXT | ZO_COMPONENT_BLIT | ZO_COMPONENT_BITMAP |
-                       ZO_COMPONENT_RECT | ZO_COMPONENT_FRAME | ZO_COMPONENT_FBO),
-          "creating the components");
+void Canvas::LoadFont(const std::string& path, int pixels) {
+    Check(surface.ZoLoadFont(path.c_str(), static_cast<unsigned int>(pixels)), path.c_str());
 }
 
 unsigned int Canvas::CreateBuffer(int width, int height) {
@@ -104,8 +60,28 @@ void Canvas::DestroyBuffer(unsigned int buffer) {
 
 void Canvas::Fill(unsigned int buffer, const Rect& rect, const Color& color) {
     const tagZoRectInfo rectRecord = ToRecord(rect);
-    const tagZoColorRGBA colorRecord = ToRecord(color);
-    Check(surface.ZoDrawRect(buffer, &rectRecord, &colorRecord), "drawing a rectangle");
+    Check(surface.ZoDrawRect(buffer, &rectRecord, &color), "drawing a rectangle");
+}
+
+// Pixels get into a buffer as rectangles, one for each run of one colour.
+void Canvas::Paint(unsigned int buffer, const Picture& picture, const Rect& rect,
+                   unsigned char alpha) {
+    for (unsigned int y = 0; y < picture.height; ++y) {
+        const int top = Place(rect.y, rect.height, y, picture.height);
+        const int bottom = Place(rect.y, rect.height, y + 1, picture.height);
+        for (unsigned int x = 0, end = 0; x < picture.width; x = end) {
+            const unsigned char* pixel = picture.At(x, y);
+            for (end = x + 1; end < picture.width && memcmp(picture.At(end, y), pixel, 4) == 0;) {
+                ++end;
+            }
+            const int left = Place(rect.x, rect.width, x, picture.width);
+            const int right = Place(rect.x, rect.width, end, picture.width);
+            if (pixel[3] != 0) {
+                Fill(buffer, {left, top, right - left, bottom - top},
+                     {pixel[0], pixel[1], pixel[2], alpha});
+            }
+        }
+    }
 }
 
 void Canvas::Copy(unsigned int from, const Rect& source, unsigned int to, const Rect& target) {
@@ -128,20 +104,19 @@ int Canvas::MeasureText(std::u16string_view text) {
     return static_cast<int>(width);
 }
 
-void Canvas::Present(unsigned int buffer, const Rect& source) {
-    const tagZoRectInfo from = ToRecord(source);
-    const tagZoRectInfo to = ToRecord(GetWindowRect());
-    Check(surface.ZoDisplayFBO(buffer, &from, &to), "presenting a buffer");
+void Canvas::Present(unsigned int buffer, const Rect& part) {
+    const tagZoRectInfo rect = ToRecord(part);
+    Check(surface.ZoDisplayFBO(buffer, &rect, &rect), "presenting a buffer");
 }
 
-void Canvas::PresentPixels(const unsigned char* pixels, const Rect& size) {
+void Canvas::ShowPicture(const Picture& picture, const Rect& rect) {
     tagZoBitmapInfo info{};
-    info.data = pixels;
+    info.data = picture.rgba.data();
     info.format = ZO_FORMAT_RGBA8888;
-    info.width = static_cast<unsigned int>(size.width);
-    info.height = static_cast<unsigned int>(size.height);
-    info.rect = ToRecord(GetWindowRect());
-    Check(surface.ZoDisplayBitmap(&info), "presenting a bitmap");
+    info.width = picture.width;
+    info.height = picture.height;
+    info.rect = ToRecord(rect);
+    Check(surface.ZoDisplayBitmap(&info), "showing a picture");
 }
 
 void Canvas::Refresh() {

@@ -1,8 +1,9 @@
-// The library behind a thin helper that checks every result code and reports what failed.
+// The library behind a thin helper, which checks every result code and reports failures.
 #ifndef OSD_CANVAS_H
 #define OSD_CANVAS_H
 
 #include "Geometry.h"
+#include "common/Picture.h"
 
 #include <string>
 #include <string_view>
@@ -10,8 +11,8 @@
 struct TextStyle {
     Color color;
     unsigned int fontSize;
-    bool bold;
-    bool italic;
+    bool bold = false;
+    bool italic = false;
 };
 
 class Canvas {
@@ -22,31 +23,33 @@ public:
     bool IsGood() const { return failures == 0; }
 
     Rect GetWindowRect() const;
-    void Bind(ANativeWindow* window);
-    void Unbind();
-    void LoadFont(const std::string& path, unsigned int pixels);
-    void CreateComponents();
+    void LoadFont(const std::string& path, int pixels);
 
     unsigned int CreateBuffer(int width, int height);
     void DestroyBuffer(unsigned int buffer);
 
     void Fill(unsigned int buffer, const Rect& rect, const Color& color);
+    /// Paints a picture that is scaled to a rectangle, which may exceed the buffer. Pixels of alpha 0
+    /// are left out.
+    /// @param alpha of everything that is painted
+    void Paint(unsigned int buffer, const Picture& picture, const Rect& rect,
+               unsigned char alpha = 255);
     void Copy(unsigned int from, const Rect& source, unsigned int to, const Rect& target);
     void DrawText(unsigned int buffer, std::u16string_view text, const TextStyle& style, int x,
                   int baseline);
     int MeasureText(std::u16string_view text);
 
-    /// Puts a buffer on the whole window.
-    void Present(unsigned int buffer, const Rect& source);
-    /// Puts `size.width` by `size.height` RGBA pixels on the whole window.
-    void PresentPixels(const unsigned char* pixels, const Rect& size);
+    /// Clears the window and shows a part of a buffer at the same place.
+    void Present(unsigned int buffer, const Rect& part);
+    /// Clears the window and shows a picture on a part of it.
+    void ShowPicture(const Picture& picture, const Rect& rect);
     void Refresh();
 
 private:
     void Check(int code, const char* operation);
 
     ZoGLDrawSurface& surface;
-    int failures;
+    int failures = 0;
 };
 
 #endif

@@ -1,116 +1,62 @@
 #include "Options.h"
 
+#include "common/Example.h"
+
 #include <cstdio>
 #include <cstdlib>
-#include <getopt.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr char usage[] = "usage: zogles-osd [--frames N] [--size WxH] [--out DIR] [--font FILE] "
-                         "[--window] [--help]\n";
+                         "[--window]\n";
+constexpr char platformFont[] = "/system/fonts/CC3.ttf";
 
-constexpr int leastWidth = 320;
-constexpr int leastHeight = 180;
-constexpr int mostPixels = 4096;
-constexpr int mostFrames = 1000000;
-
-// A whole number within limits, which ends at the character `end`.
-bool ReadNumber(const char* text, char end, int least, int most, int* value, const char** rest) {
-    char* stop = nullptr;
-    const long number = strtol(text, &stop, 10);
-    if (stop == text || *stop != end || number < least || number > most) {
-        return false;
-    }
-    *value = static_cast<int>(number);
-    *rest = stop;
-    return true;
+// Reads a number within limits, and moves past it.
+bool ReadNumber(const char** text, int least, int most, int* value) {
+    char* end = nullptr;
+    const long number = strtol(*text, &end, 10);
+    const bool isGood = end != *text && number >= least && number <= most;
+    *value = isGood ? static_cast<int>(number) : least;
+    *text = end;
+    return isGood;
 }
 
 bool ReadSize(const char* text, Options* options) {
-    const char* rest = nullptr;
-    return ReadNumber(text, 'x', leastWidth, mostPixels, &options->width, &rest) &&
-           ReadNumber(rest + 1, '\0', leastHeight, mostPixels, &options->height, &rest);
+    return ReadNumber(&text, 320, 4096, &options->width) && *text++ == 'x' &&
+           ReadNumber(&text, 180, 4096, &options->height) && *text == '\0';
 }
 
-bool ReadFrames(const char* text, Options* options) {
-    const char* rest = nullptr;
-    return ReadNumber(text, '\0', 1, mostFrames, &options->frames, &rest);
-}
-
-bool ReadOption(int option, const char* value, Options* options) {
-    switch (option) {
-    case 'n':
-        return ReadFrames(value, options);
-    case 's':
-        return ReadSize(value, options);
-    case 'o':
-        options->outputFolder = value;
-        return !options->outputFolder.empty();
-    case 'f':
-        options->fontFile = value;
-        return !options->fontFile.empty();
-    case 'w':
-        options->staysOpen = true;
-        return true;
-    case 'h':
-        options->wantsHelp = true;
-        return true;
-    default:
-        return false;
+bool ReadOption(const std::string& name, const char* value, Options* options) {
+    if (name == "--frames") {
+        return ReadNumber(&value, 1, 1000000, &options->frames) && *value == '\0';
     }
-}
-
-bool Complain() {
-    fputs(usage, stderr);
-    return false;
+    if (name == "--size") {
+        return ReadSize(value, options);
+    }
+    if (name == "--out") {
+        options->outputFolder = value;
+    } else if (name == "--font") {
+        options->fontFile = value;
+    }
+    return (name == "--out" || name == "--font") && *value != '\0';
 }
 
 } // namespace
 
 bool ReadOptions(int argc, char* argv[], Options* options) {
-    const option known[] = {{"frames", required_argument, nullptr, 'n'},
-                            {"size", required_argument, nullptr, 's'},
-                            {"out", required_argument, nullptr, 'o'},
-                            {"font", required_argument, nullptr, 'f'},
-                            {"window", no_argument, nullptr, 'w'},
-                            {"help", no_argument, nullptr, 'h'},
-                            {nullptr, 0, nullptr, 0}};
-    int index = 0;
-    for (int found = getopt_long(argc, argv, "", known, &index); found != -1;
-         found = getopt_long(argc, argv, "", known, &index)) {
-        if (found == '?') {
-            return Complain(); // getopt has said which option
+    options->fontFile = access(platformFont, R_OK) == 0 ? platformFont : fontFile;
+    for (int i = 1; i < argc; ++i) {
+        const std::string name = argv[i];
+        if (name == "--window") {
+            options->staysOpen = true;
+            continue;
         }
-        if (!ReadOption(found, optarg, options)) {
-            fprintf(stderr, "zogles-osd: --%s does not take '%s'\n", known[index].name, optarg);
-            return Complain();
+        const char* value = i + 1 < argc ? argv[++i] : "";
+        if (!ReadOption(name, value, options)) {
+            fprintf(stderr, "zogles-osd: %s %s is wrong\n%s", name.c_str(), value, usage);
+            return false;
         }
-    }
-    if (optind < argc) {
-        fprintf(stderr, "zogles-osd: '%s' is no option\n", argv[optind]);
-        return Complain();
     }
     return true;
-}
-
-void PrintHelp() {
-    fputs(usage, stdout);
-    printf("\nDraws a television's on-screen display in a window and writes pictures of it.\n\n"
-           "  --frames N   frames to draw for measuring their cost, 1 to %d (240)\n"
-           "  --size WxH   size of the window, %dx%d to %dx%d (1280x720)\n"
-           "  --out DIR    where the pictures go (out)\n"
-           "  --font FILE  font to draw with\n"
-           "  --window     stay open afterwards and animate until Esc is pressed\n"
-           "  --help       show this text\n",
-           mostFrames, leastWidth, leastHeight, mostPixels, mostPixels);
-}
-
-std::string ChooseFont(const Options& options) {
-    constexpr char platformFont[] = "/system/fonts/CC3.ttf";
-    constexpr char packagedFont[] = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
-    if (!options.fontFile.empty()) {
-        return options.fontFile;
-    }
-    return access(platformFont, R_OK) == 0 ? platformFont : packagedFont;
 }

@@ -9,17 +9,12 @@ struct Options {
     int width = 1280;
     int height = 720;
     std::string outputFolder = "out";
-    std::string fontFile;
+    std::string
+        fontFile; ///< if not given, the platform's font, or else the one of a Debian package
     bool staysOpen = false;
-    bool wantsHelp = false;
 };
 
-/// False, with a line on stderr, when an option is not understood.
+/// False, with a message, if an option is wrong.
 bool ReadOptions(int argc, char* argv[], Options* options);
-
-void PrintHelp();
-
-/// The font to draw with: the one asked for, else the platform's, else that of a Debian package.
-std::string ChooseFont(const Options& options);
 
 #endif

@@ -1,17 +1,14 @@
 #include "Scene.h"
 
-#include "Logo.h"
 #include "Palette.h"
+
+#include <utility>
 
 namespace {
 
-// The picture's alpha: over the window's black it is dimmed to this share of its brightness, as a
-// half-transparent black background of the display would dim a video.
-constexpr int pictureAlpha = 200;
-
-// How much of a panel is its own colour; the rest is the picture behind it. Panels are opaque to
-// the window, since text lowers the alpha at its edges: over opaque ground that shows least.
-constexpr double panelShare = 0.72;
+// Over the window's black, this alpha dims the background as a display would dim a video. Panels are
+// opaque, because text lowers the alpha at its edges: over opaque pixels that shows least.
+constexpr unsigned char backgroundAlpha = 200;
 
 constexpr double programmeMinutes = 75;
 constexpr int startMinute = 21 * 60 + 15;
@@ -19,18 +16,31 @@ constexpr int startMinute = 21 * 60 + 15;
 constexpr int volumeSteps = 20;
 constexpr int volumeLevel = 13;
 
+Rect GetSize(const Picture& picture) {
+    return {0, 0, static_cast<int>(picture.width), static_cast<int>(picture.height)};
+}
+
+// The place of a picture that covers the whole window and keeps its shape.
+Rect Cover(const Rect& window, const Rect& picture) {
+    const double scale =
+        std::max(1.0 * window.width / picture.width, 1.0 * window.height / picture.height);
+    const int width = Round(picture.width * scale);
+    const int height = Round(picture.height * scale);
+    return {(window.width - width) / 2, (window.height - height) / 2, width, height};
+}
+
 constexpr std::u16string_view subtitleTexts[2] = {u"The ferry is late again.",
                                                   u"Time enough for the lighthouse."};
 
 } // namespace
 
-Scene::Scene(Canvas& target, Typesetter& setter, const Layout& where)
-    : canvas(target), typesetter(setter), layout(where), landscape(where.window),
-      menu(target, setter, where), subtitles{}, glass(ZO_NO_HANDLE), backdrop(ZO_NO_HANDLE),
-      frame(ZO_NO_HANDLE) {}
+Scene::Scene(Canvas& target, Typesetter& setter, const Layout& where, ScenePictures files)
+    : canvas(target), typesetter(setter), layout(where), pictures(std::move(files)),
+      menu(target, setter, where), subtitles{} {}
 
 void Scene::CreateBuffers() {
-    landscape.Create(canvas);
+    const Rect small = GetSize(pictures.glass);
+    cells = canvas.CreateBuffer(small.width, small.height);
     menu.CreateBuffers();
     glass = canvas.CreateBuffer(layout.window.width, layout.window.height);
     backdrop = canvas.CreateBuffer(layout.window.width, layout.window.height);
@@ -38,14 +48,22 @@ void Scene::CreateBuffers() {
 }
 
 void Scene::Paint() {
-    landscape.PaintFrosted(canvas, glass, Palette::glass, panelShare);
+    PaintGlass();
     Stage stage(canvas, layout.window.width, layout.window.height);
     menu.Paint(stage);
-    landscape.Paint(canvas, stage, pictureAlpha);
+    stage.Paint(pictures.background, Cover(layout.window, GetSize(pictures.background)),
+                backgroundAlpha);
     PaintPanels(stage);
     stage.ReduceTo(backdrop, layout.window.width, layout.window.height);
     PaintTexts();
     ArrangeSubtitles();
+}
+
+// Stretching such a small picture blurs it.
+void Scene::PaintGlass() {
+    const Rect small = GetSize(pictures.glass);
+    canvas.Paint(cells, pictures.glass, small);
+    canvas.Copy(cells, small, glass, layout.window);
 }
 
 void Scene::PaintPanels(Stage& stage) {
@@ -60,7 +78,7 @@ void Scene::PaintPanels(Stage& stage) {
     const Rect& bar = layout.scrollbar;
     stage.FillRounded(bar, bar.width / 2, Palette::track);
     PaintProgressTrack(stage);
-    Logo::Paint(stage, layout.logo);
+    stage.Paint(pictures.logo, layout.logo);
     PaintVolumeIcon(stage);
 }
 

@@ -4,14 +4,14 @@
 
 namespace {
 
-// Past the pixels of a full-HD picture, a stage of four times the size takes too much memory.
+// Above the size of full HD, a stage of four times the width and height takes too much memory.
 constexpr int mostPixelsForFour = 1920 * 1080;
 
 int ChooseScale(int width, int height) {
     return width * height <= mostPixelsForFour ? 4 : 2;
 }
 
-// How far a quarter circle leaves the side of its square in a row, counted from the circle's pole.
+// The distance of a quarter circle from the side of its square, in a row counted from the top.
 int CornerInset(int radius, int row) {
     const double rise = radius - row - 0.5;
     return Round(radius - std::sqrt(radius * radius - rise * rise));
@@ -20,7 +20,7 @@ int CornerInset(int radius, int row) {
 } // namespace
 
 Stage::Stage(Canvas& target, int width, int height)
-    : canvas(target), scale(ChooseScale(width, height)), whole{0, 0, width * scale, height * scale},
+    : canvas(target), scale(ChooseScale(width, height)),
       buffer(canvas.CreateBuffer(width * scale, height * scale)),
       half(scale == 4 ? canvas.CreateBuffer(width * 2, height * 2) : ZO_NO_HANDLE) {}
 
@@ -55,16 +55,8 @@ void Stage::FillRounded(const Rect& rect, int radius, const Color& color) {
     ForEachStrip(rect, radius, [&](const Rect& strip) { FillFine(strip, color); });
 }
 
-void Stage::FillDisc(const Rect& square, const Color& top, const Color& bottom) {
-    const Rect fine = square.Times(scale);
-    ForEachStrip(square, square.width / 2, [&](const Rect& strip) {
-        const double share = (strip.y - fine.y + 0.5) / fine.height;
-        FillFine(strip, Mix(top, bottom, share));
-    });
-}
-
-void Stage::Stretch(unsigned int from, const Rect& source) {
-    canvas.Copy(from, source, buffer, whole);
+void Stage::Paint(const Picture& picture, const Rect& rect, unsigned char alpha) {
+    canvas.Paint(buffer, picture, rect.Times(scale), alpha);
 }
 
 void Stage::CopyRounded(unsigned int from, const Rect& rect, int radius) {
@@ -75,8 +67,8 @@ void Stage::CopyRounded(unsigned int from, const Rect& rect, int radius) {
     });
 }
 
-// One halving at a time: halving by a linear copy takes the mean of four pixels, while a larger
-// step would leave pixels out.
+// Halves one step at a time: a linear copy to half the size takes the mean of four pixels, while a
+// larger step would skip pixels.
 void Stage::ReduceTo(unsigned int to, int width, int height) {
     const Rect target{0, 0, width, height};
     if (half == ZO_NO_HANDLE) {

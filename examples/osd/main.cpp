@@ -1,20 +1,21 @@
 // A television's on-screen display, drawn with libzogles in a window.
 //
-// Shows a splash, the scene, the scene scrolled, and the scene after the window was lost; writes a
-// picture of each as the X server has it, and prints what a frame costs.
+// Shows a splash, the scene, the scene scrolled, and the scene after the window was lost. Writes a
+// picture of each and prints what a frame costs.
 
-#include "Cost.h"
 #include "Options.h"
-#include "OsdWindow.h"
+#include "Palette.h"
 #include "Scene.h"
-#include "Screenshot.h"
-#include "Splash.h"
+#include "common/XWindow.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
-#include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -23,183 +24,161 @@ constexpr double shownMinute = 32; // 21:47 by the scene's clock
 constexpr int rowsToScroll = 4;
 constexpr int scrollStep = 3;
 
+double ReadClock(clockid_t clock) {
+    timespec time{};
+    clock_gettime(clock, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+Picture ReadPicture(const char* name) {
+    return ReadPng(std::string(EXAMPLES_FOLDER "/osd/") + name);
+}
+
 class Demo {
 public:
     explicit Demo(const Options& asked)
-        : options(asked), fontFile(ChooseFont(asked)), canvas(surface) {}
-
-    // The library lets go of the window before the window goes.
-    ~Demo() { canvas.Unbind(); }
-    Demo(const Demo&) = delete;
-    Demo& operator=(const Demo&) = delete;
+        : options(asked), canvas(surface), layout(OpenWindow()),
+          typesetter(canvas, layout.standardText),
+          scene(
+              canvas, typesetter, layout,
+              {ReadPicture("background.png"), ReadPicture("glass.png"), ReadPicture("logo.png")}) {}
 
     bool Run();
 
 private:
-    bool OpenWindow();
-    void PrepareDrawing();
-    bool TakePicture(const char* name, const std::function<void()>& draw, Picture* picture);
-    bool ShowPictures();
-    bool LoseWindow();
+    Rect OpenWindow();
+    Picture Save(const char* name);
+    void DrawSplash();
     void ScrollRow();
     void DrawMovingFrame();
-    void Animate();
-    void PrintFolder() const;
+    void MeasureFrames();
+    bool LoseWindow(const Picture& before);
 
     const Options& options;
-    std::string fontFile;
-    std::unique_ptr<OsdWindow> window;
-    ZoGLDrawSurface surface;
+    std::unique_ptr<XWindow> window;
+    ZoGLDrawSurface surface; // destroyed before its window
     Canvas canvas;
-    std::unique_ptr<Layout> layout;
-    std::unique_ptr<Typesetter> typesetter;
-    std::unique_ptr<Scene> scene;
-    Picture firstScene;
+    Layout layout;
+    Typesetter typesetter;
+    Scene scene;
     double minute = shownMinute;
 };
 
-bool Demo::OpenWindow() {
-    window = std::make_unique<OsdWindow>(options.width, options.height);
-    if (!window->IsOpen()) {
-        return false;
-    }
-    canvas.Bind(window->GetNativeWindow());
-    return canvas.IsGood();
+// Returns the size of the window, which may be another one than was asked for.
+Rect Demo::OpenWindow() {
+    window = std::make_unique<XWindow>(static_cast<unsigned int>(options.width),
+                                       static_cast<unsigned int>(options.height));
+    Check("binding the window", surface.ZoCreateGLWindowSurface(window->Show()));
+    return canvas.GetWindowRect();
 }
 
-// Fonts and components go with the window, so this is needed after each binding.
-void Demo::PrepareDrawing() {
-    canvas.LoadFont(fontFile, static_cast<unsigned int>(layout->standardText));
-    if (canvas.IsGood()) {
-        canvas.CreateComponents();
-    }
-}
-
-bool Demo::TakePicture(const char* name, const std::function<void()>& draw, Picture* picture) {
-    if (!WipeWindow(*window)) {
-        return false;
-    }
-    draw();
-    canvas.Refresh();
+// Saves what is drawn, and shows it.
+Picture Demo::Save(const char* name) {
+    Picture picture = ReadWindow(surface, surface.ZoGetWindowWidth(), surface.ZoGetWindowHeight());
     const std::string path = options.outputFolder + "/" + name;
-    if (!canvas.IsGood() || !TakeScreenshot(*window, picture) || !WritePng(path, *picture)) {
-        return false;
-    }
+    WritePng(path, picture);
     printf("wrote %s\n", path.c_str());
-    return true;
+    canvas.Refresh();
+    return picture;
+}
+
+// A bitmap clears the window, so everything else is drawn after it.
+void Demo::DrawSplash() {
+    const Picture splash = ReadPicture("splash.png");
+    const Rect& all = layout.window;
+    const int center = all.width / 2;
+    const int width = layout.Scale(splash.width);
+    const int height = layout.Scale(splash.height);
+    canvas.ShowPicture(splash, {center - width / 2, (all.height - height) / 2, width, height});
+
+    const int bottom = all.height / 2 + layout.Scale(48); // of the logo in the picture
+    const Type name{layout.Scale(64), Palette::text, true, false};
+    typesetter.DrawCentered(ZO_WINDOW_HANDLE, u"zogles", name, center, bottom + layout.Scale(92));
+    const Type claim{layout.Scale(24), Palette::quiet};
+    typesetter.DrawCentered(ZO_WINDOW_HANDLE, u"on-screen display", claim, center,
+                            bottom + layout.Scale(136));
+    const Rect bar{center - layout.Scale(90), bottom + layout.Scale(176), layout.Scale(180),
+                   layout.Scale(4)};
+    canvas.Fill(ZO_WINDOW_HANDLE, bar, Palette::track);
+    canvas.Fill(ZO_WINDOW_HANDLE, {bar.x, bar.y, bar.width * 2 / 3, bar.height}, Palette::accent);
 }
 
 void Demo::ScrollRow() {
     do {
-        scene->ScrollMenu(layout->Scale(scrollStep));
-        scene->DrawFrame(shownMinute);
+        scene.ScrollMenu(layout.Scale(scrollStep));
+        scene.DrawFrame(shownMinute);
         canvas.Refresh();
-    } while (scene->IsMenuBetweenRows());
-}
-
-bool Demo::ShowPictures() {
-    const auto drawScene = [this] { scene->DrawFrame(shownMinute); };
-    const auto drawSplash = [this] { DrawSplash(canvas, *typesetter, *layout); };
-    Picture picture;
-    if (!TakePicture("logo.png", drawSplash, &picture)) {
-        return false;
-    }
-    scene->CreateBuffers();
-    scene->Paint();
-    if (!TakePicture("osd.png", drawScene, &firstScene)) {
-        return false;
-    }
-    for (int i = 0; i < rowsToScroll; ++i) {
-        ScrollRow();
-    }
-    return TakePicture("osd-scrolled.png", drawScene, &picture);
-}
-
-// The buffers come back under their old handles, cleared: the scene paints them anew.
-bool Demo::LoseWindow() {
-    canvas.Unbind();
-    window.reset();
-    if (!OpenWindow()) {
-        return false;
-    }
-    PrepareDrawing();
-    scene->Paint();
-    Picture picture;
-    if (!TakePicture(
-            "osd-rebound.png", [this] { scene->DrawFrame(shownMinute); }, &picture)) {
-        return false;
-    }
-    const bool isSame = picture.pixels == firstScene.pixels;
-    printf("the frame after the loss of the window is %s the one before\n",
-           isSame ? "pixel for pixel" : "NOT");
-    return isSame;
+    } while (scene.IsMenuBetweenRows());
 }
 
 void Demo::DrawMovingFrame() {
     constexpr double minutesPerFrame = 1.0 / 60; // a minute in a second
     minute = minute > 74 ? 0 : minute + minutesPerFrame;
-    scene->ScrollMenu(layout->Scale(1));
-    scene->DrawFrame(minute);
+    scene.ScrollMenu(layout.Scale(1));
+    scene.DrawFrame(minute);
     canvas.Refresh();
 }
 
-void Demo::PrintFolder() const {
-    std::error_code error;
-    const std::filesystem::path folder = std::filesystem::absolute(options.outputFolder, error);
-    printf("the pictures lie in %s\n", error ? options.outputFolder.c_str() : folder.c_str());
+void Demo::MeasureFrames() {
+    std::vector<double> times;
+    const double processStart = ReadClock(CLOCK_PROCESS_CPUTIME_ID);
+    const double threadStart = ReadClock(CLOCK_THREAD_CPUTIME_ID);
+    double last = ReadClock(CLOCK_MONOTONIC);
+    for (int i = 0; i < options.frames; ++i) {
+        DrawMovingFrame();
+        const double now = ReadClock(CLOCK_MONOTONIC);
+        times.push_back(now - last);
+        last = now;
+    }
+    const double process = ReadClock(CLOCK_PROCESS_CPUTIME_ID) - processStart;
+    const double thread = ReadClock(CLOCK_THREAD_CPUTIME_ID) - threadStart;
+    std::sort(times.begin(), times.end());
+    const double median = times[times.size() / 2];
+    printf("cost of a frame (%d frames, each composed, presented and refreshed; the time includes\n"
+           "waiting for the display, the processor time does not):\n"
+           "  time, median             %8.2f ms (%.0f frames a second)\n"
+           "  time, 99 of 100 within   %8.2f ms\n"
+           "  processor time, mean     %8.2f ms, all threads with the driver's\n"
+           "    of it drawing thread   %8.2f ms\n",
+           options.frames, median, 1000 / median, times[(times.size() - 1) * 99 / 100],
+           process / options.frames, thread / options.frames);
 }
 
-// The refresh waits for the display where the driver keeps its rate.
-void Demo::Animate() {
-    printf("animating; Esc in the window ends it\n");
-    fflush(stdout);
-    while (canvas.IsGood() && window->HandleEvents()) {
-        DrawMovingFrame();
-    }
+// The buffers are back under their old handles, cleared, so the scene is painted again. The font is
+// not back.
+bool Demo::LoseWindow(const Picture& before) {
+    surface.ZoDestoryGLWindowSurface();
+    OpenWindow();
+    canvas.LoadFont(options.fontFile, layout.standardText);
+    scene.Paint();
+    scene.DrawFrame(shownMinute);
+    const bool isSame = Save("osd-rebound.png").rgba == before.rgba;
+    printf("the frame after the loss of the window is %s the one before\n",
+           isSame ? "pixel for pixel" : "NOT");
+    return isSame;
 }
 
 bool Demo::Run() {
-    if (!OpenWindow()) {
-        return false;
+    printf("font %s, window %dx%d\n", options.fontFile.c_str(), layout.window.width,
+           layout.window.height);
+    canvas.LoadFont(options.fontFile, layout.standardText);
+    DrawSplash();
+    Save("logo.png");
+    scene.CreateBuffers();
+    scene.Paint();
+    scene.DrawFrame(shownMinute);
+    const Picture first = Save("osd.png");
+    for (int i = 0; i < rowsToScroll; ++i) {
+        ScrollRow();
     }
-    layout = std::make_unique<Layout>(canvas.GetWindowRect());
-    typesetter = std::make_unique<Typesetter>(canvas, layout->standardText);
-    scene = std::make_unique<Scene>(canvas, *typesetter, *layout);
-    PrepareDrawing();
-    printf("font %s, window %dx%d\n", fontFile.c_str(), layout->window.width,
-           layout->window.height);
-    if (!canvas.IsGood() || !ShowPictures()) {
-        return false;
+    scene.DrawFrame(shownMinute);
+    Save("osd-scrolled.png");
+    MeasureFrames();
+    const bool isSame = LoseWindow(first);
+    while (options.staysOpen && canvas.IsGood() && window->IsOpen()) {
+        DrawMovingFrame();
     }
-    const Cost cost = MeasureFrames(options.frames, [this] { DrawMovingFrame(); });
-    if (!LoseWindow()) {
-        return false;
-    }
-    PrintCost(cost);
-    PrintFolder();
-    if (options.staysOpen) {
-        Animate();
-    }
-    return canvas.IsGood();
-}
-
-// What the demo settles before SDL, EGL and the library look at it; the user's own choice holds.
-void SetDefaults() {
-    // These parts of the library log good news and units that the font lacks as errors; their real
-    // failures come as result codes, which are reported here.
-    setenv("ANDROID_LOG_TAGS", "EGLManager:F FBOManager:F OSDText:F *:E", 0);
-    // The window is X11's also where the desktop is not.
-    setenv("EGL_PLATFORM", "x11", 0);
-    SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11");
-}
-
-bool MakeFolder(const std::string& path) {
-    std::error_code error;
-    std::filesystem::create_directories(path, error);
-    if (error) {
-        fprintf(stderr, "zogles-osd: %s: %s\n", path.c_str(), error.message().c_str());
-    }
-    return !error;
+    return isSame && canvas.IsGood();
 }
 
 } // namespace
@@ -209,19 +188,10 @@ int main(int argc, char* argv[]) {
     if (!ReadOptions(argc, argv, &options)) {
         return exitBadOption;
     }
-    if (options.wantsHelp) {
-        PrintHelp();
-        return EXIT_SUCCESS;
-    }
-    SetDefaults();
-    if (!MakeFolder(options.outputFolder)) {
-        return EXIT_FAILURE;
-    }
-    if (SDL_Init(SDL_INIT_VIDEO) != 0) {
-        fprintf(stderr, "zogles-osd: no X11 display: %s\n", SDL_GetError());
-        return EXIT_FAILURE;
-    }
-    const bool isGood = Demo(options).Run();
-    SDL_Quit();
-    return isGood ? EXIT_SUCCESS : EXIT_FAILURE;
+    // These parts of the library log good news and missing characters as errors. Their failures are
+    // result codes, too.
+    setenv("ANDROID_LOG_TAGS", "EGLManager:F FBOManager:F OSDText:F *:E", 0);
+    std::error_code error; // if the folder cannot be created, nor can the first picture
+    std::filesystem::create_directories(options.outputFolder, error);
+    return Demo(options).Run() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

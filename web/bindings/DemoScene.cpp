@@ -3,34 +3,47 @@
 #include "osd/Scene.h"
 
 #include <emscripten/bind.h>
+#include <emscripten/val.h>
+#include <string>
 
 namespace {
 
+using emscripten::val;
+
 constexpr int scrollStep = 1; // pixels of the design in a frame
+
+// A picture that the page decoded, an ImageData.
+Picture ToPicture(const val& image) {
+    const auto rgba = image["data"].as<std::string>();
+    return {image["width"].as<unsigned int>(), image["height"].as<unsigned int>(),
+            {rgba.begin(), rgba.end()}};
+}
 
 /// The scene, and what it is drawn with, on a surface that outlives it.
 class DemoScene {
 public:
     /// @pre the surface is bound
-    explicit DemoScene(ZoGLDrawSurface& surface)
+    DemoScene(ZoGLDrawSurface& surface, const val& pictures)
         : canvas(surface), layout(canvas.GetWindowRect()), typesetter(canvas, layout.standardText),
-          scene(canvas, typesetter, layout) {}
+          scene(canvas, typesetter, layout,
+                {ToPicture(pictures["background"]), ToPicture(pictures["glass"]),
+                 ToPicture(pictures["logo"])}) {}
 
-    /// Creates the scene's buffers, once: their handles hold beyond a loss of the window.
+    /// Creates the scene's buffers, once: their handles stay valid after a loss of the window.
     void CreateBuffers() { scene.CreateBuffers(); }
 
     /// Loads a font at the size that the scene is laid out for.
     void LoadFont(const std::string& path) {
-        canvas.LoadFont(path, static_cast<unsigned int>(layout.standardText));
+        canvas.LoadFont(path, layout.standardText);
     }
 
-    /// Paints everything that rests, in the font that is loaded.
+    /// Paints everything that does not move, in the font that is loaded.
     void Paint() { scene.Paint(); }
 
     void Scroll() { scene.ScrollMenu(layout.Scale(scrollStep)); }
 
     /// Draws a frame and shows it.
-    /// @param minutes since the programme began
+    /// @param minutes since the beginning of the programme
     void DrawFrame(double minutes) {
         scene.DrawFrame(minutes);
         canvas.Refresh();
@@ -50,7 +63,7 @@ private:
 
 EMSCRIPTEN_BINDINGS(scene) {
     emscripten::class_<DemoScene>("DemoScene")
-        .constructor<ZoGLDrawSurface&>()
+        .constructor<ZoGLDrawSurface&, val>()
         .function("CreateBuffers", &DemoScene::CreateBuffers)
         .function("LoadFont", &DemoScene::LoadFont)
         .function("Paint", &DemoScene::Paint)

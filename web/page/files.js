@@ -24,6 +24,19 @@ async function decode(source) {
     return context.getImageData(0, 0, width, height);
 }
 
+/**
+ * The pixels of a PNG file beside the page.
+ *
+ * @param {string} name
+ */
+export async function fetchPicture(name) {
+    const file = await fetch(`${name}.png`);
+    if (!file.ok) {
+        throw new Error(`the page’s picture ${name} is not there`);
+    }
+    return decode(await file.blob());
+}
+
 /** @param {number[]} codes */
 function nameCharacters(codes) {
     const shown = codes.slice(0, mostNamed).map((code) => {
@@ -70,14 +83,12 @@ export class Files extends EventTarget {
 
     /** What the page brings along. */
     async loadOwn() {
-        const [font, poster] = await Promise.all(
-            ['DejaVuSans.ttf', 'poster.png'].map((name) => fetch(name)),
-        );
-        if (!font.ok || !poster.ok) {
-            throw new Error('the page’s own font and picture are not there');
+        const [font, poster] = await Promise.all([fetch('DejaVuSans.ttf'), fetchPicture('poster')]);
+        if (!font.ok) {
+            throw new Error('the page’s own font is not there');
         }
         this.#store(ownFont, new Uint8Array(await font.arrayBuffer()));
-        this.pictures.set('poster.png', await decode(await poster.blob()));
+        this.pictures.set('poster.png', poster);
     }
 
     /** @param {File[]} files */

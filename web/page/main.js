@@ -9,7 +9,7 @@ import { Losses } from './losses.js';
 import { Magnifier } from './magnifier.js';
 import { ownHandle, ownSize } from './operations.js';
 import { OperationsPanel } from './operations-panel.js';
-import { Player } from './scene.js';
+import { fetchScenePictures, Player } from './scene.js';
 import { Stage } from './stage.js';
 import { windowHandle } from './targets.js';
 import { Workbench } from './workbench.js';
@@ -123,7 +123,7 @@ async function start() {
     if (code !== 0) {
         throw new Error(`binding the canvas gave ${code}`);
     }
-    const player = new Player(engine, ownFont);
+    const player = new Player(engine, ownFont, await fetchScenePictures());
     engine.withoutLog(() => {
         player.restart();
         createOwnBuffer(engine);

@@ -1,19 +1,20 @@
 // The demo's scene, playing on the engine's surface.
 
+import { fetchPicture } from './files.js';
 import { mostBuffers } from './targets.js';
 
 /** @typedef {import('./engine.js').Engine} Engine */
 
 /** The scene's buffers, in the order in which it creates them. */
 const bufferNames = [
-    'sky, as cells',
+    'glass, as cells',
     'list',
     'next row',
     'highlight',
     'chosen row',
     'scrollbar',
-    'frosted picture',
-    'all that rests',
+    'frosted glass',
+    'all that does not move',
     'frame',
 ];
 
@@ -22,6 +23,14 @@ const buffersToPaintWith = 2;
 const shownMinute = 32; // 21:47 by the scene's clock
 const lastMinute = 74;
 const minutesPerFrame = 1 / 60; // a minute in a second
+
+/** The pictures of the demo that the scene is made of. */
+export async function fetchScenePictures() {
+    const [background, glass, logo] = await Promise.all(
+        ['background', 'glass', 'logo'].map(fetchPicture),
+    );
+    return { background, glass, logo };
+}
 
 /** Tells of "state" when it starts or stops to play. */
 export class Player extends EventTarget {
@@ -43,10 +52,12 @@ export class Player extends EventTarget {
     /**
      * @param {Engine} engine
      * @param {string} fontPath what the scene is written in
+     * @param {import('./libzogles.mjs').ScenePictures} pictures
      */
-    constructor(engine, fontPath) {
+    constructor(engine, fontPath, pictures) {
         super();
         this.engine = engine;
+        this.pictures = pictures;
         this.fontPath = fontPath;
         engine.addEventListener('binding', () => engine.isBound || this.pause());
         engine.addEventListener('targets', () => this.#checkBuffers());
@@ -85,7 +96,7 @@ export class Player extends EventTarget {
         this.names.clear();
         this.engine.updateTargets();
         const before = new Set(this.engine.targets.keys());
-        this.#scene = new this.engine.library.DemoScene(this.engine.surface);
+        this.#scene = new this.engine.library.DemoScene(this.engine.surface, this.pictures);
         this.#scene.CreateBuffers();
         this.engine.updateTargets();
         const own = [...this.engine.targets.keys()].filter((handle) => !before.has(handle));

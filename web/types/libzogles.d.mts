@@ -56,6 +56,12 @@ export interface Surface {
     ZoDrawText(handle: number, info: TextFields, rect: Rect): number;
 }
 
+export interface ScenePictures {
+    background: ImageData;
+    glass: ImageData;
+    logo: ImageData;
+}
+
 export interface DemoScene {
     CreateBuffers(): void;
     LoadFont(path: string): void;
@@ -83,7 +89,7 @@ export interface Library {
         writeFile(path: string, data: Uint8Array): void;
     };
     ZoGLDrawSurface: new () => Surface;
-    DemoScene: new (surface: Surface) => DemoScene;
+    DemoScene: new (surface: Surface, pictures: ScenePictures) => DemoScene;
     DescribeFont(path: string, size: number): FontReport;
     Shows(filter: string, priority: number, tag: string): boolean;
 }
