@@ -1,5 +1,6 @@
 #include "Session.h"
 
+#include "support/DocumentedCodes.h"
 #include "support/Harness.h"
 
 #include <cstring>
@@ -11,10 +12,10 @@ constexpr unsigned int width = 64;
 constexpr unsigned int height = 48;
 constexpr tagZoRectInfo whole = {0, 0, width, height};
 constexpr tagZoRectInfo part = {8, 4, 32, 24};
-constexpr tagZoRectInfo everything = {0, 0, 1000, 1000}; // of any target
+constexpr tagZoRectInfo everything = {0, 0, 4000, 4000}; // of any target
 constexpr tagZoRectInfo pen = {2, 40, 0, 0};
 
-// The characters of the session's font.
+// The characters of the sessions' font.
 constexpr FT_ULong plain = 'A';
 constexpr FT_ULong alwaysImage = 'B';
 constexpr FT_ULong oneBit = 'M';
@@ -41,7 +42,7 @@ tagZoTextInfo Text(const char16_t* text, unsigned int length) {
     return info;
 }
 
-// Longer than what is drawn without an allocation; the space is not in the font.
+// Longer than what is drawn without an allocation. The font lacks the space.
 int DrawLongText(Client& client) {
     char16_t text[80] = u"AB M";
     for (size_t i = 4; i < std::size(text); ++i) {
@@ -77,65 +78,29 @@ int Lose(Client& client) {
     return ZO_SUCCESS;
 }
 
-const std::vector<int> bindingCodes = {
-    ZO_NO_DISPLAY, ZO_DISPLAY_INIT_FAILED, ZO_NO_CONFIG,
-    ZO_NO_CONTEXT, ZO_NO_WINDOW_SURFACE,   ZO_FAILURE,
-};
-const std::vector<int> fontCodes = {ZO_FREETYPE_FAILED, ZO_FONT_FACE_FAILED, ZO_FONT_ATLAS_EMPTY,
-                                    ZO_FAILURE};
-const std::vector<int> initCodes = {ZO_PROGRAM_FAILED, ZO_FREETYPE_FAILED, ZO_FONT_FACE_FAILED,
-                                    ZO_FONT_ATLAS_EMPTY, ZO_FAILURE};
-const std::vector<int> bufferCodes = {ZO_NO_FREE_FBO, ZO_FAILURE};
-const std::vector<int> drawCodes = {ZO_INVALID_PARAM, ZO_PROGRAM_FAILED, ZO_FAILURE};
-const std::vector<int> bitmapCodes = {ZO_PROGRAM_FAILED, ZO_FAILURE};
-const std::vector<int> textCodes = {ZO_INVALID_PARAM,    ZO_PROGRAM_FAILED,   ZO_FREETYPE_FAILED,
-                                    ZO_FONT_FACE_FAILED, ZO_FONT_ATLAS_EMPTY, ZO_FAILURE};
-const std::vector<int> destroyCodes = {ZO_NO_FBO_MANAGER};
+int Create(Client& client, unsigned int& handle) {
+    if (handle != ZO_NO_HANDLE) { // a buffer that the binding restored
+        client.surface->ZoDestoryGLFBO(handle);
+        handle = ZO_NO_HANDLE;
+    }
+    return client.surface->ZoCreateGLFBO(&handle, width, height, ZO_FORMAT_RGBA8888);
+}
 
-} // namespace
+int Bind(Client& client) {
+    return client.surface->ZoCreateGLWindowSurface(client.window);
+}
 
-const std::vector<Step> session = {
-    {"bind", [](Client& c) { return c.surface->ZoCreateGLWindowSurface(c.window); }, bindingCodes},
-    {"load", [](Client& c) { return c.surface->ZoLoadFont(fontPath, 24); }, fontCodes},
-    {"init", [](Client& c) { return c.surface->Init(0x3F); }, initCodes},
-    {"create left",
-     [](Client& c) { return c.surface->ZoCreateGLFBO(&c.left, width, height, ZO_FORMAT_RGBA8888); },
-     bufferCodes},
-    {"create right",
-     [](Client& c) {
-         return c.surface->ZoCreateGLFBO(&c.right, width, height, ZO_FORMAT_RGBA8888);
-     },
-     bufferCodes},
-    {"fill", [](Client& c) { return Fill(c, c.left); }, drawCodes, Drawing::Left},
-    {"blit", [](Client& c) { return Blit(c, c.right); }, drawCodes, Drawing::Right},
-    {"blit within", [](Client& c) { return Blit(c, c.left); }, drawCodes, Drawing::Left},
-    {"text", DrawLongText, textCodes, Drawing::Left},
-    {"text bold", [](Client& c) { return DrawStyledText(c, 1, 0); }, textCodes, Drawing::Right},
-    {"text italic", [](Client& c) { return DrawStyledText(c, 0, 1); }, textCodes, Drawing::Right},
-    {"measure", Measure, textCodes},
-    {"bitmap", DisplayBitmap, bitmapCodes, Drawing::Window},
-    {"present", [](Client& c) { return c.surface->ZoDisplayFBO(c.left, &whole, &whole); },
-     drawCodes, Drawing::Window},
-    {"refresh", [](Client& c) { return c.surface->ZoRefreshOnSrceen(); }, {ZO_NO_EGL_MANAGER}},
-    {"move", [](Client& c) { return c.surface->ZoCreateGLWindowSurface(c.otherWindow); },
-     bindingCodes},
-    {"fill window", [](Client& c) { return Fill(c, ZO_WINDOW_HANDLE, everything); }, drawCodes,
-     Drawing::Window},
-    {"lose", Lose, {}},
-    {"bind again", [](Client& c) { return c.surface->ZoCreateGLWindowSurface(c.window); },
-     bindingCodes, Drawing::Left},
-    // Now every drawing operation has its renderer, and the text its default font, to make first.
-    {"first fill", [](Client& c) { return Fill(c, c.left); }, drawCodes, Drawing::Left},
-    {"first blit", [](Client& c) { return Blit(c, c.right); }, drawCodes, Drawing::Right},
-    {"first measure", Measure, textCodes},
-    {"first text", DrawLongText, textCodes, Drawing::Left},
-    {"first bitmap", DisplayBitmap, bitmapCodes, Drawing::Window},
-    {"first present", [](Client& c) { return c.surface->ZoDisplayFBO(c.right, &whole, &part); },
-     drawCodes, Drawing::Window},
-    {"destroy left", [](Client& c) { return c.surface->ZoDestoryGLFBO(c.left); }, destroyCodes},
-    {"destroy right", [](Client& c) { return c.surface->ZoDestoryGLFBO(c.right); }, destroyCodes},
-    {"lose at last", Lose, {}},
-};
+int FillLeft(Client& client) {
+    return Fill(client, client.left);
+}
+
+int BlitToRight(Client& client) {
+    return Blit(client, client.right);
+}
+
+int Present(Client& client) {
+    return client.surface->ZoDisplayFBO(client.left, &whole, &whole);
+}
 
 void UseSessionFont() {
     harness::State& state = harness::Current();
@@ -158,4 +123,65 @@ void UseSessionFont() {
         const FT_Int32 mono = code == oneBit ? FT_LOAD_MONOCHROME : 0;
         return FT_Load_Char(face, code, flags | image | mono);
     };
+}
+
+constexpr Codes noCodes = {ZO_SUCCESS};
+
+} // namespace
+
+const Session preparedSession = {
+    {"bind", Bind, bindCodes, Drawing::Left},
+    {"load", [](Client& c) { return c.surface->ZoLoadFont(fontPath, 24); }, fontCodes},
+    {"init", [](Client& c) { return c.surface->Init(0x3F); }, initCodes},
+    {"create left", [](Client& c) { return Create(c, c.left); }, createCodes, Drawing::Left},
+    {"create right", [](Client& c) { return Create(c, c.right); }, createCodes, Drawing::Right},
+    {"fill", FillLeft, drawCodes, Drawing::Left},
+    {"blit", BlitToRight, drawCodes, Drawing::Right},
+    {"blit within", [](Client& c) { return Blit(c, c.left); }, drawCodes, Drawing::Left},
+    {"text", DrawLongText, textCodes, Drawing::Left},
+    {"text bold", [](Client& c) { return DrawStyledText(c, 1, 0); }, textCodes, Drawing::Right},
+    {"text italic", [](Client& c) { return DrawStyledText(c, 0, 1); }, textCodes, Drawing::Right},
+    {"measure", Measure, measureCodes},
+    {"bitmap", DisplayBitmap, bitmapCodes, Drawing::Window},
+    {"present", Present, drawCodes, Drawing::Window},
+    {"refresh", [](Client& c) { return c.surface->ZoRefreshOnSrceen(); }, refreshCodes},
+    {"move", [](Client& c) { return c.surface->ZoCreateGLWindowSurface(c.otherWindow); },
+     bindCodes},
+    {"fill window", [](Client& c) { return Fill(c, ZO_WINDOW_HANDLE, everything); }, drawCodes,
+     Drawing::Window},
+    {"lose", Lose, noCodes},
+};
+
+const Session firstUseSession = {
+    {"bind", Bind, bindCodes, Drawing::Left},
+    {"first fill", FillLeft, drawCodes, Drawing::Left},
+    {"first blit", BlitToRight, drawCodes, Drawing::Right},
+    {"first measure", Measure, measureCodes},
+    {"first text", DrawLongText, textCodes, Drawing::Left},
+    {"first bitmap", DisplayBitmap, bitmapCodes, Drawing::Window},
+    {"first present", Present, drawCodes, Drawing::Window},
+    {"lose", Lose, noCodes},
+};
+
+void SessionFixture::SetUp() {
+    SurfaceFixture::SetUp();
+    UseSessionFont();
+    client = {surface.get(), window.Native(), otherWindow.Native()};
+    for (const Step& step : preparedSession) {
+        ASSERT_EQ(step.run(client), ZO_SUCCESS) << step.name;
+    }
+}
+
+Image SessionFixture::Look(Drawing drawing) {
+    switch (drawing) {
+    case Drawing::Left:
+        return Read(client.left);
+    case Drawing::Right:
+        return Read(client.right);
+    case Drawing::Window:
+        return ReadPixels(static_cast<int>(surface->ZoGetWindowWidth()),
+                          static_cast<int>(surface->ZoGetWindowHeight()));
+    default:
+        return {};
+    }
 }

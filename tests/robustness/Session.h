@@ -1,10 +1,11 @@
 /// @file
-/// A client's life in small: a fixed session that uses every operation, step by step.
+/// What a client does from binding a window to losing it, step by step, in two fixed sessions.
 #ifndef ZOGLES_TESTS_ROBUSTNESS_SESSION_H
 #define ZOGLES_TESTS_ROBUSTNESS_SESSION_H
 
-#include "zogles/ZoGLDrawSurface.h"
+#include "support/SurfaceFixture.h"
 
+#include <initializer_list>
 #include <vector>
 
 /// What the client of a session holds.
@@ -19,20 +20,36 @@ struct Client {
 /// What a step draws on.
 enum class Drawing { None, Left, Right, Window };
 
-/// One operation of the session.
+/// One operation of a session.
 struct Step {
     const char* name;
-    int (*run)(Client& client); ///< an operation's code; 0 for one that has none
-    std::vector<int> codes;     ///< those that the operation documents, besides success
+    int (*run)(Client& client);       ///< returns the operation's code; ZO_SUCCESS if it has none
+    std::initializer_list<int> codes; ///< documented for the operation
     Drawing drawing = Drawing::None;
 };
+using Session = std::vector<Step>;
 
-/// The steps in order. They start and end without a window. Buffers are 64 by 48 pixels.
-extern const std::vector<Step> session;
+/// Every operation, with the font and all renderers made beforehand. Both sessions start and end
+/// without a window. Buffers are 64 by 48 pixels; the next binding restores them.
+extern const Session preparedSession;
 
-/// Makes every font map a few characters only: a plain one; one that is a 1-bit image, as old
-/// fonts have them; one that is an 8-bit image even for heavier strokes; and a mark without area.
-/// Default fonts are there.
-void UseSessionFont();
+/// Needs the buffers of the other session. Each operation makes its renderer, and the text loads the
+/// default font.
+extern const Session firstUseSession;
+
+/// Has run the prepared session once, so that either can follow, any number of times.
+///
+/// Fonts map a few characters only: an outline; one that is a 1-bit image, as old fonts have them; one
+/// that is an 8-bit image even when emboldened.
+class SessionFixture : public SurfaceFixture {
+protected:
+    void SetUp() override;
+
+    /// The pixels of what a step draws on.
+    Image Look(Drawing drawing);
+
+    TestWindow otherWindow{windowWidth / 2, windowHeight / 2};
+    Client client = {};
+};
 
 #endif
