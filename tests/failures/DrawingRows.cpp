@@ -1,4 +1,4 @@
-// Shader programs, and the operations that draw or measure, when they lack something.
+// The operations that draw or measure, when they lack something.
 
 #include "FailureRows.h"
 
@@ -28,6 +28,8 @@ const struct Drawing {
      false, "y"},
 };
 
+const harness::LogLine noProgram = Line("ShaderProgram", "create program fail\n");
+
 Log InitFails(const Drawing& drawing, int code, Log before) {
     if (code == ZO_PROGRAM_FAILED) {
         before.push_back(Line(drawing.tag, "create shader program fail"));
@@ -50,10 +52,10 @@ Rows NullRows() {
     for (const Drawing& drawing : drawings) {
         std::istringstream parts(drawing.pointers);
         for (std::string part; parts >> part;) { // unbound, where nothing may be made either
-            rows.emplace_back(
-                drawing.name + "_null_" + part, Step(), [part](C& c) { c.missing = part; },
-                drawing.run, ZO_INVALID_PARAM, Log{SurfaceLine("param is nullptr\n")}, "",
-                ExpectSizeUntouched, &C::Bound);
+            rows.push_back(Row(
+                drawing.name + "_null_" + part, {}, [part](C& c) { c.missing = part; }, drawing.run,
+                ZO_INVALID_PARAM, {SurfaceLine("param is nullptr\n")}, "", ExpectSizeUntouched,
+                &C::Bound));
         }
     }
     return rows;
@@ -69,14 +71,14 @@ Rows HandleRows() {
         const Step spoilSource = [handle](C& c) { c.blit.srcHandle = handle; };
         for (const Drawing& drawing : drawings) {
             if (drawing.needsPool) {
-                rows.emplace_back(drawing.name + suffix, &C::Bound, spoil, drawing.run,
-                                  ZO_INVALID_PARAM, log);
-                rows.emplace_back(drawing.name + "_unbound" + suffix, Step(), spoil, drawing.run,
-                                  ZO_INVALID_PARAM, log, "+pool ", Step(), &C::Bound);
+                rows.push_back(
+                    {drawing.name + suffix, &C::Bound, spoil, drawing.run, ZO_INVALID_PARAM, log});
+                rows.push_back(Row(drawing.name + "_unbound" + suffix, {}, spoil, drawing.run,
+                                   ZO_INVALID_PARAM, log, "+pool ", {}, &C::Bound));
             }
         }
-        rows.emplace_back("blit_source" + suffix, &C::Bound, spoilSource, &C::Blit,
-                          ZO_INVALID_PARAM, log, "", expectOneFill);
+        rows.push_back(Row("blit_source" + suffix, &C::Bound, spoilSource, &C::Blit,
+                           ZO_INVALID_PARAM, log, "", expectOneFill));
     }
     return rows;
 }
@@ -87,45 +89,28 @@ Rows RefusalRows(const Drawing& drawing) {
     Rows rows;
     for (const char hasRenderer : drawing.fills) {
         const int fill = static_cast<int>(rows.size()) + 1;
-        rows.emplace_back(drawing.name + "_record_" + std::to_string(fill) + "_not_zeroed",
-                          &C::WithFont, Fail("memset_s", fill), drawing.run, ZO_FAILURE,
-                          Log{SurfaceLine("memset_s_func failed, rc = 34")},
-                          hasRenderer == 'y' ? drawing.renderer : "", ExpectSizeUntouched);
+        rows.push_back(Row(drawing.name + "_record_" + std::to_string(fill) + "_not_zeroed",
+                           &C::WithFont, Fail("memset_s", fill), drawing.run, ZO_FAILURE,
+                           {SurfaceLine("memset_s_func failed, rc = 34")},
+                           hasRenderer == 'y' ? drawing.renderer : "", ExpectSizeUntouched));
     }
-    const char* noShader = "Create shader fail\n";
-    const char* notCompiled = "Could not compile shader #:\n\n";
-    const char* notLinked = "Could not link program:\n\n";
-    const std::tuple<const char*, const char*, int, const char*> programFaults[] = {
-        {"_no_vertex_shader", "glCreateShader", 1, noShader},
-        {"_no_fragment_shader", "glCreateShader", 2, noShader},
-        {"_vertex_shader_not_compiled", "glCompileShader", 1, notCompiled},
-        {"_fragment_shader_not_compiled", "glCompileShader", 2, notCompiled},
-        {"_vertex_shader_untold", "glGetShaderiv", 1, notCompiled},
-        {"_fragment_shader_untold", "glGetShaderiv", 2, notCompiled},
-        {"_no_program", "glCreateProgram", 1, "create program fail\n"},
-        {"_program_not_linked", "glLinkProgram", 1, notLinked},
-        {"_program_untold", "glGetProgramiv", 1, notLinked},
-    };
-    const auto addInit = [&](const char* condition, const Step& fault, int code, const Log& log) {
-        rows.emplace_back(drawing.name + condition, &C::WithFont, fault, drawing.run, code,
-                          InitFails(drawing, code, log));
-    };
-    for (const auto& [condition, call, nth, line] : programFaults) {
-        addInit(condition, Fail(call, nth), ZO_PROGRAM_FAILED, {Line("ShaderProgram", line)});
-    }
-    addInit("_no_memory_for_renderer", RefuseAllocation(1), ZO_FAILURE, {noMemory});
-    addInit("_no_memory_for_program", RefuseAllocation(2), ZO_PROGRAM_FAILED, {});
+    rows.push_back(Row(drawing.name + "_no_memory_for_renderer", &C::WithFont, RefuseAllocation(1),
+                       drawing.run, ZO_FAILURE, InitFails(drawing, ZO_FAILURE, {noMemory})));
     if (drawing.needsPool) {
-        rows.emplace_back(drawing.name + "_no_memory_for_pool", WithoutPool, RefuseAllocation(1),
-                          drawing.run, ZO_FAILURE, Log{noMemory});
+        rows.push_back(Row(drawing.name + "_no_memory_for_pool", WithoutPool, RefuseAllocation(1),
+                           drawing.run, ZO_FAILURE, {noMemory}));
     }
-    const char* change = drawing.needsPool ? "+pool " : "";
-    const Log log = InitFails(drawing, ZO_PROGRAM_FAILED, {Line("ShaderProgram", noShader)});
     if (drawing.tag != drawings[4].tag) { // text loads the default font first
-        rows.emplace_back(drawing.name + "_never_bound", Step(), Step(), drawing.run,
-                          ZO_PROGRAM_FAILED, log, change, Step(), &C::Bound);
-        rows.emplace_back(drawing.name + "_window_lost", &C::WindowLost, Step(), drawing.run,
-                          ZO_PROGRAM_FAILED, log, change, Step(), &C::Bound);
+        rows.push_back(
+            {drawing.name + "_never_bound",
+             {},
+             {},
+             drawing.run,
+             ZO_PROGRAM_FAILED,
+             InitFails(drawing, ZO_PROGRAM_FAILED, {Line("ShaderProgram", "Create shader fail\n")}),
+             drawing.needsPool ? "+pool " : "",
+             {},
+             &C::Bound});
     }
     return rows;
 }
@@ -135,101 +120,61 @@ Rows InitRows() {
     std::set<std::string> made;
     Rows rows;
     for (const int i : {4, 1, 3, 2, 0}) {
-        const Log log = InitFails(drawings[i], ZO_PROGRAM_FAILED,
-                                  {Line("ShaderProgram", "create program fail\n")});
+        const Log log = InitFails(drawings[i], ZO_PROGRAM_FAILED, {noProgram});
         const int nth = static_cast<int>(made.size()) + 1;
-        rows.emplace_back("init_" + drawings[i].name + "_fails", &C::WithFont,
-                          Fail("glCreateProgram", nth), &C::InitAll, ZO_PROGRAM_FAILED, log,
-                          std::accumulate(made.begin(), made.end(), std::string()));
+        rows.push_back(Row("init_" + drawings[i].name + "_fails", &C::WithFont,
+                           Fail("glCreateProgram", nth), &C::InitAll, ZO_PROGRAM_FAILED, log,
+                           std::accumulate(made.begin(), made.end(), std::string())));
         made.insert(drawings[i].renderer);
     }
     return rows;
 }
 
-template <unsigned int Component>
-int InitOne(C& c) {
-    return c.surface->Init(Component);
-}
-
-Rows ProgramRows() {
-    const auto shaderLine = [](const char* text) { return Line("ShaderProgram", text); };
-    const Operation loadNothing = [](C&) {
-        return ShaderProgram().LoadShader(GL_VERTEX_SHADER, nullptr) == 0 ? ZO_PROGRAM_FAILED
-                                                                          : ZO_SUCCESS;
-    };
-    const Operation buildNothing = [](C&) {
-        const ShaderProgram programs;
-        return programs.CreateProgram(nullptr, "") + programs.CreateProgram("", nullptr) == 0
-                   ? ZO_PROGRAM_FAILED
-                   : ZO_SUCCESS;
-    };
-    const Step expectNoCall = [](C& c) { EXPECT_TRUE(c.calls.empty()); };
-    const Step neitherKind = And(Fail("glCompileShader"), Fail("glIsShader"));
-    const Step noMemoryForLog = And(Fail("glCompileShader"), RefuseAllocation(3));
-    const Step noLocation = [](C&) { harness::Current().locate = [](const auto&) { return -1; }; };
-    const Step expectNoLocation = [](C& c) {
-        const OSDText& text = *c.surface->osdText;
-        EXPECT_TRUE(text.coordLocation == -1 && text.texLocation == -1 && text.colorLocation == -1);
-    };
-    const Step expectPicture = [](C&) {
-        EXPECT_EQ(ReadPixels(8, 120).At(7, 7), (Pixel{255, 255, 255, 255}));
-    };
-    const harness::LogLine noColor = shaderLine("Could not bind uniform color\n");
-    const Drawing& rect = drawings[0];
-    return {
-        Row("shader_null_source", &C::Bound, {}, loadNothing, ZO_PROGRAM_FAILED,
-            {shaderLine("Error source is NULL\n")}, "", expectNoCall, {}, ZO_PROGRAM_FAILED),
-        Row("program_null_source", &C::Bound, {}, buildNothing, ZO_PROGRAM_FAILED, {}, "",
-            expectNoCall, {}, ZO_PROGRAM_FAILED),
-        Row("driver_log_of_no_shader_and_no_program", &C::Bound, neitherKind, rect.run,
-            ZO_PROGRAM_FAILED,
-            InitFails(rect, ZO_PROGRAM_FAILED, {shaderLine("Not a shader or a program\n")})),
-        Row("driver_log_without_memory", &C::Bound, noMemoryForLog, rect.run, ZO_PROGRAM_FAILED,
-            InitFails(rect, ZO_PROGRAM_FAILED, {shaderLine("allocate memory fail\n")})),
-        Row("rect_locations_missing", &C::Bound, noLocation, InitOne<ZO_COMPONENT_RECT>, ZO_SUCCESS,
-            {shaderLine("Could not bind attribute vPosition\n"), noColor}, "+rect ", {},
-            [](const C& c) { c.surface->osdRect.reset(); }),
-        Row("text_locations_missing", &C::WithFont, noLocation, InitOne<ZO_COMPONENT_TEXT>,
-            ZO_SUCCESS,
-            {shaderLine("Could not bind attribute coord\n"),
-             shaderLine("Could not bind uniform tex\n"), noColor},
-            "+text ", expectNoLocation),
-        Row(
-            "bitmap_unknown_format", &C::Bound, [](C& c) { c.bitmap.format = -1; },
-            &C::DisplayBitmap, ZO_SUCCESS, {SurfaceLine("Color format is invalid -1\n")},
-            "+bitmap ", expectPicture),
-    };
-}
-
 // On a target without an extent, a rectangle has none either, and text cannot be scaled.
-template <int tagFrameBuffObject::*Side>
-Rows EmptyTargetRows(const std::string& name) {
-    const Step prepare = [](C& c) {
-        c.WithAll();
-        EXPECT_EQ(c.DrawText(), ZO_SUCCESS);
-        c.surface->fboManager->slots[0].*Side = 0;
-    };
-    const Step mend = [](const C& c) { c.surface->fboManager->slots[0].*Side = 160; };
+Rows EmptyTargetRows() {
     const Step expectNoExtent = [](C&) {
         const std::vector<unsigned char>& bytes = harness::Current().bufferData;
         for (size_t i = 0; i < size_t{6} * 16; i += 16) { // x and y of six vertices
             EXPECT_TRUE(std::all_of(&bytes.at(i), &bytes.at(i + 8), [](int b) { return b == 0; }));
         }
     };
-    return {Row("rect_target_without_" + name, prepare, {}, &C::DrawRect, ZO_SUCCESS, {}, "",
-                expectNoExtent, mend),
-            Row("text_target_without_" + name, prepare, {}, &C::DrawText, ZO_INVALID_PARAM,
-                {Line("OSDText", "Param is invalid\n"),
-                 Line("OSDText", "get font alpha texture fail 101\n")},
-                "", {}, mend)};
+    Rows rows;
+    for (const auto& [name, side] : {std::pair("width", &tagFrameBuffObject::width),
+                                     std::pair("height", &tagFrameBuffObject::height)}) {
+        const auto setSide = [side = side](C& c, int pixels) {
+            c.surface->fboManager->slots[0].*side = pixels;
+        };
+        const Step prepare = [=](C& c) {
+            c.WithAll();
+            c.DrawText();
+            setSide(c, 0);
+        };
+        const Step restore = [=](C& c) { setSide(c, 100); };
+        rows.push_back(Row(std::string("rect_target_without_") + name, prepare, {}, &C::DrawRect,
+                           ZO_SUCCESS, {}, "", expectNoExtent, restore));
+        rows.push_back(Row(std::string("text_target_without_") + name, prepare, {}, &C::DrawText,
+                           ZO_INVALID_PARAM,
+                           {Line("OSDText", "Param is invalid\n"),
+                            Line("OSDText", "get font alpha texture fail 101\n")},
+                           "", {}, restore));
+    }
+    return rows;
+}
+
+Rows UnknownFormatRows() {
+    const Step expectPicture = [](const C& c) {
+        const int height = static_cast<int>(c.surface->ZoGetWindowHeight());
+        EXPECT_EQ(ReadPixels(8, height).At(7, 7), (Pixel{255, 255, 255, 255}));
+    };
+    return {Row(
+        "bitmap_unknown_format", &C::Bound, [](C& c) { c.bitmap.format = -1; }, &C::DisplayBitmap,
+        ZO_SUCCESS, {SurfaceLine("Color format is invalid -1\n")}, "+bitmap ", expectPicture)};
 }
 
 } // namespace
 
 Rows DrawingRows() {
-    Rows rows = NullRows() + HandleRows() + InitRows() + ProgramRows() +
-                EmptyTargetRows<&tagFrameBuffObject::width>("width") +
-                EmptyTargetRows<&tagFrameBuffObject::height>("height");
+    Rows rows = NullRows() + HandleRows() + InitRows() + EmptyTargetRows() + UnknownFormatRows();
     for (const Drawing& drawing : drawings) {
         rows = rows + RefusalRows(drawing);
     }

@@ -3,14 +3,14 @@
 #ifndef ZOGLES_TESTS_FAILURES_FAILUREROWS_H
 #define ZOGLES_TESTS_FAILURES_FAILUREROWS_H
 
-#include "../surface/LifecycleFixture.h"
 #include "support/FakeFont.h"
+#include "surface/LifecycleFixture.h"
 
 class ConditionGLTest;
 using Step = std::function<void(ConditionGLTest&)>;
 using Operation = std::function<int(ConditionGLTest&)>;
 
-/// A condition, and what the operation returns, logs and leaves behind under it.
+/// A condition, and what the operation returns, logs and changes under it.
 struct Row {
     std::string name; ///< the condition
     Step prepare;
@@ -20,14 +20,15 @@ struct Row {
     Log log;            ///< with # for what the driver chooses
     std::string change; ///< of ConditionGLTest::State: "+pool -font "
     Step check;
-    Step mend; ///< ends the condition, where a good request and a good harness do not
+    Step end =
+        {};    ///< of the condition, where a good request and a harness without faults do not do
     int again; ///< what the operation returns then
 
     Row(std::string condition, Step before, Step wrong, Operation operation, int result, Log lines,
         std::string difference = "", Step checks = {}, Step after = {}, int then = ZO_SUCCESS)
         : name(std::move(condition)), prepare(std::move(before)), fault(std::move(wrong)),
           run(std::move(operation)), code(result), log(std::move(lines)),
-          change(std::move(difference)), check(std::move(checks)), mend(std::move(after)),
+          change(std::move(difference)), check(std::move(checks)), end(std::move(after)),
           again(then) {}
 };
 using Rows = std::vector<Row>;

@@ -68,33 +68,27 @@ Step ExpectDraws(int styledCode) {
 
 Rows LoadingRows() {
     const Operation load = &C::LoadFont;
-    const Step showThree =
-        Show({{65, 4, 3}, {66, 4, 3, 0, 0, 0, 0, {}, true}, {67, 4, 3}, {68, 4, 3}});
-    const harness::LogLine failed = Standard("Loading character 66 failed!\n");
-    const char* withoutFace = "+standard:1 -face -standard:2 ";
     Rows rows = {
         Row("load_null_path", &C::Bound, Without("path"), load, ZO_INVALID_PARAM,
             {SurfaceLine("font lib path is nullptr\n")}),
         Row("load_size_not_set", &C::WithFont, Fail("FT_Set_Pixel_Sizes"), load, ZO_SUCCESS,
             {Standard("set pixel size fail"), generated}),
-        Row("load_character_fails", &C::WithFont, showThree, load, ZO_SUCCESS,
-            {failed, failed, Line("FontAtlas", "Generated a 15 x 3 (0 kb) texture atlas\n", 5)},
-            "+standard:3 -standard:2 "),
-        // The standard atlas holds the new font then, and the styled one none.
-        Row("load_no_styled_library", &C::WithFont,
-            And(Show({{65, 4, 3}}), Fail("FT_Init_FreeType", 2)), load, ZO_FREETYPE_FAILED,
-            {generatedOne, Styled(noLibrary), SurfaceLine("Load dynamic font lib fail 30\n")},
-            withoutFace, ExpectDraws(ZO_FONT_ATLAS_EMPTY)),
-        Row("load_styled_face_refused", &C::WithFont,
-            And(Show({{65, 4, 3}}), Fail("FT_New_Face", 2)), load, ZO_FONT_FACE_FAILED,
-            {generatedOne, Styled(noFace), SurfaceLine("Load dynamic font lib fail 31\n")},
-            withoutFace, ExpectDraws(ZO_FONT_ATLAS_EMPTY)),
     };
+    // The standard atlas holds the new font then, and the styled one none.
+    for (const auto& [call, code, line] :
+         {std::tuple("FT_Init_FreeType", ZO_FREETYPE_FAILED, noLibrary),
+          std::tuple("FT_New_Face", ZO_FONT_FACE_FAILED, noFace)}) {
+        const std::string own = "Load dynamic font lib fail " + std::to_string(code) + "\n";
+        rows.push_back(Row(std::string("load_styled_") + call + "_fails", &C::WithFont,
+                           And(Show({{65, 4, 3}}), Fail(call, 2)), load, code,
+                           {generatedOne, Styled(line), SurfaceLine(own)},
+                           "+standard:1 -face -standard:2 ", ExpectDraws(ZO_FONT_ATLAS_EMPTY)));
+    }
     for (const auto& [condition, fault, code, line] : atlasFaults) {
         const std::string own = "Load standard font lib fail " + std::to_string(code) + "\n";
-        rows.emplace_back("load_" + condition, &C::WithFont, fault, load, code,
-                          Log{Standard(line), SurfaceLine(own)}, "+standard:empty -standard:2 ",
-                          ExpectDraws(ZO_SUCCESS));
+        rows.push_back(Row("load_" + condition, &C::WithFont, fault, load, code,
+                           {Standard(line), SurfaceLine(own)}, "+standard:empty -standard:2 ",
+                           ExpectDraws(ZO_SUCCESS)));
     }
     return rows;
 }
@@ -112,27 +106,23 @@ Rows FirstUseRows() {
         {"init", &C::InitAll}, {"measure", &C::Measure}, {"text", &C::DrawText}};
     Rows rows;
     for (const auto& [name, run] : entries) {
-        const std::string prefix = name + "_default_font_";
-        for (const auto& [condition, fault, code, line] : atlasFaults) {
-            const std::string number = std::to_string(code) + "\n";
-            rows.emplace_back(prefix + condition, &C::Bound, fault, run, code,
-                              Log{Standard(line),
-                                  SurfaceLine("Load standard font lib fail " + number),
-                                  SurfaceLine("Load font fail " + number)},
-                              "+standard:empty +styled:empty ", ExpectDefaultFont);
-        }
-        rows.emplace_back(name + "_default_font_styled_face_refused", &C::Bound,
-                          Fail("FT_New_Face", 2), run, ZO_FONT_FACE_FAILED,
-                          Log{generated, Styled(noFace),
-                              SurfaceLine("Load dynamic font lib fail 31\n"),
-                              SurfaceLine("Load font fail 31\n")},
-                          "+standard:2 +styled:empty ", ExpectDefaultFont);
-        rows.emplace_back(name + "_default_font_loaded_but_no_program", &C::Bound,
-                          Fail("glCreateProgram"), run, ZO_PROGRAM_FAILED,
-                          Log{generated, Line("ShaderProgram", "create program fail\n"),
-                              Line("OSDText", "create shader program fail"),
-                              SurfaceLine("OSD text init fail 20\n")},
-                          "+face +font +standard:2 +styled:empty ", ExpectDefaultFont);
+        rows.push_back(Row(name + "_default_font_refused", &C::Bound, Fail("FT_New_Face"), run,
+                           ZO_FONT_FACE_FAILED,
+                           {Standard(noFace), SurfaceLine("Load standard font lib fail 31\n"),
+                            SurfaceLine("Load font fail 31\n")},
+                           "+standard:empty +styled:empty ", ExpectDefaultFont));
+        rows.push_back(
+            Row(name + "_default_font_styled_face_refused", &C::Bound, Fail("FT_New_Face", 2), run,
+                ZO_FONT_FACE_FAILED,
+                {generated, Styled(noFace), SurfaceLine("Load dynamic font lib fail 31\n"),
+                 SurfaceLine("Load font fail 31\n")},
+                "+standard:2 +styled:empty ", ExpectDefaultFont));
+        rows.push_back(Row(name + "_default_font_loaded_but_no_program", &C::Bound,
+                           Fail("glCreateProgram"), run, ZO_PROGRAM_FAILED,
+                           {generated, Line("ShaderProgram", "create program fail\n"),
+                            Line("OSDText", "create shader program fail"),
+                            SurfaceLine("OSD text init fail 20\n")},
+                           "+face +font +standard:2 +styled:empty ", ExpectDefaultFont));
     }
     return rows;
 }
@@ -154,28 +144,12 @@ Step SetText(const char16_t* units, unsigned int length, unsigned int size = 41)
     };
 }
 
-Step ExpectVertices(int count) {
-    return [=](C& c) {
-        const std::string draw = harness::Call("glDrawArrays", GL_TRIANGLES, 0, count);
-        EXPECT_EQ(std::count(c.calls.begin(), c.calls.end(), draw), 1);
-    };
-}
-
 Rows RequestRows() {
     const Operation draw = &C::DrawText;
     const Step styled = SetText(u"AB", 2);
-    const Log absent = {Line("OSDText", "Char 32 is not exit\n")};
     Rows rows = {
         Row("styled_size_not_set", DrawBothStyles, And(styled, Fail("FT_Set_Pixel_Sizes")), draw,
-            ZO_SUCCESS, {Styled("set pixel size fail")}, "", ExpectVertices(12)),
-        // In both passes. Its quad has no area.
-        Row("styled_unit_not_loaded", DrawBothStyles,
-            And(styled, And(Fail("FT_Load_Char", 1), Fail("FT_Load_Char", 3))), draw, ZO_SUCCESS,
-            {}, "+styled:1 -styled:2 ", ExpectVertices(12)),
-        Row("text_unit_absent", DrawBothStyles, SetText(u"A B", 3, 40), draw, ZO_SUCCESS, absent,
-            "", ExpectVertices(12)),
-        Row("measure_unit_absent", DrawBothStyles, SetText(u"A B", 3), &C::Measure, ZO_SUCCESS,
-            absent, "", [](C& c) { EXPECT_TRUE(c.size[0] == 38 && c.size[1] == 50); }),
+            ZO_SUCCESS, {Styled("set pixel size fail")}),
     };
     const std::tuple<const char*, Step, int, const char*> faults[] = {
         {"styled_no_texture", And(styled, Fail("glGenTextures")), ZO_FAILURE, noTexture},
@@ -190,11 +164,10 @@ Rows RequestRows() {
     };
     for (const auto& [name, fault, code, line] : faults) {
         const std::string number = std::to_string(code);
-        rows.emplace_back(name, DrawBothStyles, fault, draw, code,
-                          Log{Styled(line),
-                              Line("OSDText", "Get font atlas texture fail " + number),
-                              Line("OSDText", "get font alpha texture fail " + number + "\n")},
-                          "+styled:empty -styled:2 ", expectSameTexture);
+        rows.push_back(Row(name, DrawBothStyles, fault, draw, code,
+                           {Styled(line), Line("OSDText", "Get font atlas texture fail " + number),
+                            Line("OSDText", "get font alpha texture fail " + number + "\n")},
+                           "+styled:empty -styled:2 ", expectSameTexture));
     }
     return rows;
 }

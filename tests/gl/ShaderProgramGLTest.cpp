@@ -89,6 +89,16 @@ TEST_F(ShaderProgramGLTest, DeletesWhatDoesNotBuild) {
                 testing::MatchesRegex("Could not compile shader [0-9]+:\n\n"));
 }
 
+TEST_F(ShaderProgramGLTest, RefusesNullSources) {
+    EXPECT_EQ(harness::Record([&] {
+                  EXPECT_EQ(program.LoadShader(GL_VERTEX_SHADER, nullptr), 0U);
+                  EXPECT_EQ(program.CreateProgram(nullptr, frag), 0U);
+                  EXPECT_EQ(program.CreateProgram(vert, nullptr), 0U);
+              }),
+              Calls());
+    EXPECT_EQ(harness::TakeLog(), Lines("Error source is NULL\n"));
+}
+
 TEST_F(ShaderProgramGLTest, PrintsTheDriversLog) {
     const GLuint shader = glCreateShader(GL_VERTEX_SHADER);
     const char* source = broken;
@@ -107,6 +117,9 @@ TEST_F(ShaderProgramGLTest, PrintsTheDriversLog) {
     harness::Current().infoLogLength = 0;
     program.PrintLog(shader);
     EXPECT_EQ(harness::TakeLog(), Lines(heading + "\n"));
+    harness::RefuseAllocation(1);
+    program.PrintLog(shader);
+    EXPECT_EQ(harness::TakeLog(), Lines("allocate memory fail\n"));
 
     glDeleteShader(shader);
 
