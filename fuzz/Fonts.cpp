@@ -1,5 +1,5 @@
-// A font file of any bytes, loaded, measured and drawn. What is done with it is taken from the
-// file's end, where hardly a format looks, so that every font file is an input as it is.
+// Loads a font file of any bytes, measures and draws with it. The choices are taken from the file's
+// end, which hardly any format reads, so every font file is a valid input.
 
 #include "Support.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 constexpr unsigned int largestSize = 128;
 
-// A new file for each input: a face that is open maps the old one.
+// A new file for each input: an open face maps its file.
 class MemoryFile {
 public:
     explicit MemoryFile(const std::string& content) : file(memfd_create("font", MFD_CLOEXEC)) {
@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const int loaded = surface->ZoLoadFont(file.Path().c_str(), loadedSize);
     fuzz::RequireCode("load", loaded, {ZO_SUCCESS, ZO_FONT_FACE_FAILED, ZO_FONT_ATLAS_EMPTY});
 
-    // Without a font, text asks for the default one, which is missing here.
+    // Without a font, text loads the default one, which does not exist here.
     const int expected = loaded == ZO_SUCCESS ? ZO_SUCCESS : ZO_FONT_FACE_FAILED;
     const int mayBeEmpty = loaded == ZO_SUCCESS ? ZO_FONT_ATLAS_EMPTY : expected;
     const unsigned int length = static_cast<unsigned int>(units.size());

@@ -1,9 +1,10 @@
-// A sequence of public operations, with whatever arguments, and with refusals by what is beneath
-// them. Checks each result, and that a failure leaves alone what it must; not the pixels.
+// Calls public operations in any order, with any arguments, and refuses what they need. Checks the
+// codes, and that failures leave output arguments unchanged; not the pixels.
 
 #include "Support.h"
 
 #include "platform/LogFilter.h"
+#include "support/DocumentedCodes.h"
 #include "support/Harness.h"
 
 #include <GLES2/gl2.h>
@@ -14,28 +15,11 @@
 
 namespace {
 
-using Codes = std::initializer_list<int>;
-
-constexpr Codes bindCodes = {ZO_SUCCESS,       ZO_NO_DISPLAY, ZO_DISPLAY_INIT_FAILED,
-                             ZO_NO_CONFIG,     ZO_NO_CONTEXT, ZO_NO_WINDOW_SURFACE,
-                             ZO_INVALID_PARAM, ZO_FAILURE};
-constexpr Codes initCodes = {ZO_SUCCESS,          ZO_PROGRAM_FAILED,   ZO_FREETYPE_FAILED,
-                             ZO_FONT_FACE_FAILED, ZO_FONT_ATLAS_EMPTY, ZO_FAILURE};
-constexpr Codes createCodes = {ZO_SUCCESS, ZO_NO_FREE_FBO, ZO_INVALID_PARAM, ZO_FAILURE};
-constexpr Codes destroyCodes = {ZO_SUCCESS, ZO_NO_FBO_MANAGER};
-constexpr Codes refreshCodes = {ZO_SUCCESS, ZO_NO_EGL_MANAGER};
-constexpr Codes drawCodes = {ZO_SUCCESS, ZO_INVALID_PARAM, ZO_PROGRAM_FAILED, ZO_FAILURE};
-constexpr Codes fontCodes = {ZO_SUCCESS,          ZO_INVALID_PARAM,    ZO_FREETYPE_FAILED,
-                             ZO_FONT_FACE_FAILED, ZO_FONT_ATLAS_EMPTY, ZO_FAILURE};
-constexpr Codes textCodes = {ZO_SUCCESS,         ZO_INVALID_PARAM,    ZO_PROGRAM_FAILED,
-                             ZO_FREETYPE_FAILED, ZO_FONT_FACE_FAILED, ZO_FONT_ATLAS_EMPTY,
-                             ZO_FAILURE};
-
 constexpr const char* fonts[] = {
     ZOGLES_FUZZ_FONTS "/truetype.ttf", ZOGLES_FUZZ_FONTS "/postscript.otf",
     ZOGLES_FUZZ_FONTS "/bitmap.bdf", "/no/such/font", ZOGLES_FUZZ_FONTS};
 
-// Calls that give back are not among them: the harness would keep what they were to free.
+// Calls that free something are left out: the harness would count their objects as alive.
 constexpr const char* refusable[] = {
     "eglGetDisplay",       "eglInitialize",        "eglChooseConfig",   "eglCreateContext",
     "eglMakeCurrent",      "eglQuerySurface",      "eglSwapBuffers",    "eglCreateWindowSurface",
@@ -51,14 +35,14 @@ public:
 
     void Run() {
         constexpr void (Session::*steps[])() = {
-            &Session::Bind,          &Session::LetGo,        &Session::Init,
+            &Session::Bind,          &Session::Lose,         &Session::Init,
             &Session::Refresh,       &Session::CreateBuffer, &Session::DestroyBuffer,
             &Session::DrawRect,      &Session::Blit,         &Session::DisplayBuffer,
             &Session::DisplayBitmap, &Session::LoadFont,     &Session::MeasureText,
             &Session::DrawText,      &Session::DrawText,     &Session::ResizeWindow,
             &Session::FilterLog};
         while (input.remaining_bytes() > 0) {
-            harness::Reset(); // what the step before was to be refused
+            harness::Reset(); // forgets the refusals of the step before
             fuzz::LimitFreeType();
             hasNull = false;
             (this->*input.PickValueInArray(steps))();
@@ -101,7 +85,7 @@ private:
                 static_cast<uint8_t>(value >> 16), static_cast<uint8_t>(value >> 24)};
     }
 
-    // Exactly as many units as the length says, so that the sanitizer sees a read past them.
+    // Exactly as many units as the length says: the sanitizer reports a read past them.
     tagZoTextInfo Text() {
         const unsigned int length = input.ConsumeIntegralInRange(0U, IsRare() ? 300U : 12U);
         units.reset(new char16_t[length]);
@@ -126,7 +110,7 @@ private:
         return isNull ? nullptr : value;
     }
 
-    // Comes right before a call, which is refused something now and then.
+    // To be called right before an operation. Rarely, refuses something that the operation needs.
     void BeginCall() {
         if (!IsRare()) {
             return;
@@ -148,7 +132,7 @@ private:
         fuzz::RequireCode(operation, code, hasNull ? Codes{ZO_INVALID_PARAM} : documented);
     }
 
-    // Whether a handle is known or not decides on the result, unless something failed before.
+    // The code depends on whether the handles are known, unless something was refused before.
     void RequireDrawn(const char* operation, int code,
                       std::initializer_list<unsigned int> handles) {
         const bool isKnown = std::all_of(handles.begin(), handles.end(), [this](auto handle) {
@@ -159,7 +143,7 @@ private:
                 !isDecided ? drawCodes
                 : isKnown  ? Codes{ZO_SUCCESS}
                            : Codes{ZO_INVALID_PARAM});
-        isCertain = isDecided; // unbound, there may be a pool now that holds none of the buffers
+        isCertain = isDecided; // a pool made while unbound lacks the buffers
     }
 
     void Bind() {
@@ -171,7 +155,7 @@ private:
         isBound = hasNull ? isBound : code == ZO_SUCCESS;
     }
 
-    void LetGo() {
+    void Lose() {
         BeginCall();
         surface->ZoDestoryGLWindowSurface();
         harness::RefuseAllocation(0);
@@ -207,7 +191,8 @@ private:
                 : !isBound ? Codes{ZO_FAILURE}
                 : isFull   ? Codes{ZO_NO_FREE_FBO}
                            : Codes{ZO_SUCCESS});
-        fuzz::Require((code == ZO_SUCCESS) == (handle != untouched), "handle left alone", handle);
+        fuzz::Require((code == ZO_SUCCESS) == (handle != untouched), "handle of a failed call",
+                      handle);
         const bool isNew = code != ZO_SUCCESS || buffers.insert(handle).second;
         fuzz::Require(isNew || !isCertain, "handle given twice", handle);
     }
@@ -247,7 +232,7 @@ private:
         RequireDrawn("ZoDisplayFBO", code, {handle});
     }
 
-    // Exactly the bytes that the size asks for; none for sizes that memory cannot hold.
+    // Exactly the bytes that the size needs; none for sizes beyond memory.
     void DisplayBitmap() {
         constexpr unsigned int side = 64;
         tagZoBitmapInfo info = {nullptr, Format(), 0, 0, Number(side), Number(side), Rect()};
@@ -272,9 +257,9 @@ private:
         unsigned int height = 1;
         BeginCall();
         const int code = surface->ZoGetTextSize(OrNull(&text), OrNull(&width), OrNull(&height));
-        Require("ZoGetTextSize", code, textCodes);
+        Require("ZoGetTextSize", code, measureCodes);
         fuzz::Require(height == (code == ZO_SUCCESS ? 50 : 1), "height of a text", height);
-        fuzz::Require(code == ZO_SUCCESS || width == 1, "width left alone", width);
+        fuzz::Require(code == ZO_SUCCESS || width == 1, "width of a failed call", width);
     }
 
     void DrawText() {
@@ -293,7 +278,7 @@ private:
         fuzz::ResizeWindow(number, width, input.ConsumeIntegralInRange(1U, 300U));
     }
 
-    // What the environment says of the log is read once in a process, so it is given here directly.
+    // The library reads the filter from the environment once in a process.
     void FilterLog() {
         const int priority = input.ConsumeIntegral<int8_t>();
         const std::string tag = input.ConsumeRandomLengthString(8);
@@ -303,10 +288,10 @@ private:
     FuzzedDataProvider input;
     std::unique_ptr<ZoGLDrawSurface> surface;
     std::unique_ptr<char16_t[]> units;
-    std::set<unsigned int> buffers; // whose handles the client holds
+    std::set<unsigned int> buffers; // handles that the client holds
     bool isBound = false;
-    bool hasNull = false;  // whether this step's call is given a null pointer
-    bool isCertain = true; // whether nothing was refused, so that `buffers` are all there
+    bool hasNull = false;  // whether this step passes a null pointer
+    bool isCertain = true; // whether nothing was refused so far, so that all `buffers` exist
 };
 
 } // namespace

@@ -50,7 +50,7 @@ bool IsHuge(FT_GlyphSlot glyph) {
     return (box.xMax - box.xMin) >> 6 > largestGlyph || (box.yMax - box.yMin) >> 6 > largestGlyph;
 }
 
-// A broken font can ask for a gigabyte a glyph, and FreeType would fill it.
+// A broken font can request a gigabyte per glyph, and FreeType would fill it.
 FT_Error LoadUnlessHuge(FT_Face face, FT_ULong code, FT_Int32 flags) {
     FT_Error error = FT_Load_Char(face, code, flags & ~FT_LOAD_RENDER);
     if (error == 0 && IsHuge(face->glyph)) {
@@ -108,13 +108,13 @@ void LimitFreeType() {
 
 } // namespace fuzz
 
-// The fuzzer closes the log's stream, not the checks'.
+// The fuzzer closes stderr to silence the log. The checks keep their own copy of it.
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
     messages = dup(STDERR_FILENO);
     return 0;
 }
 
-// Drivers stay loaded, so that the leak checker knows a leak of theirs by the driver's name.
+// Drivers stay loaded, so that the leak checker can name the driver in a leak's stack.
 extern "C" int dlclose(void*) {
     return 0;
 }

@@ -1,5 +1,5 @@
 /// @file
-/// What the fuzz targets share: windows, and the checks that end the program.
+/// Windows and checks for the fuzz targets. A failed check ends the program.
 #ifndef ZOGLES_FUZZ_SUPPORT_H
 #define ZOGLES_FUZZ_SUPPORT_H
 
@@ -11,7 +11,7 @@ namespace fuzz {
 
 constexpr unsigned int windowCount = 2;
 
-/// One of the windows, which live as long as the process.
+/// One of the windows, which exist as long as the process.
 ANativeWindow* WindowOf(unsigned int number);
 
 void ResizeWindow(unsigned int number, unsigned int width, unsigned int height);
@@ -22,10 +22,10 @@ void Require(bool isTrue, const char* what, long long value);
 /// Ends the program unless an operation returned one of the codes that its documentation lists.
 void RequireCode(const char* operation, int code, std::initializer_list<int> documented);
 
-/// Destroys the surface and ends the program if anything of the library's is still alive.
+/// Destroys the surface and ends the program if an object of the library is still alive.
 void RequireNothingLeft(std::unique_ptr<ZoGLDrawSurface> surface);
 
-/// Bounds what FreeType does for one input: the characters of a font, and the size of a glyph.
+/// Limits the number of characters and the size of a glyph that one input loads.
 void LimitFreeType();
 
 } // namespace fuzz

@@ -15,7 +15,7 @@ const struct Drawing {
     const char* renderer; ///< as a change of the state
     std::string pointers;
     bool needsPool;
-    std::string fills; ///< of each whether the renderer exists by then: y or n
+    std::string fills; ///< of records: whether the renderer exists by then, y or n
 } drawings[] = {
     {"rect", &C::DrawRect, "OSDRect", "OSD Rect init fail ", "+rect ", "rect color", true, "nyy"},
     {"blit", &C::Blit, "OSDBlit", "OSD blit init fail ", "+blit ", "info", true, "nn"},
@@ -51,7 +51,7 @@ Rows NullRows() {
     Rows rows;
     for (const Drawing& drawing : drawings) {
         std::istringstream parts(drawing.pointers);
-        for (std::string part; parts >> part;) { // unbound, where nothing may be made either
+        for (std::string part; parts >> part;) { // unbound: nothing may be created
             rows.push_back(Row(
                 drawing.name + "_null_" + part, {}, [part](C& c) { c.missing = part; }, drawing.run,
                 ZO_INVALID_PARAM, {SurfaceLine("param is nullptr\n")}, "", ExpectSizeUntouched,
@@ -83,7 +83,7 @@ Rows HandleRows() {
     return rows;
 }
 
-// Memory, records and the renderer, each of which can be refused.
+// Records that are not zeroed, refused memory, and a missing context.
 Rows RefusalRows(const Drawing& drawing) {
     const harness::LogLine noMemory = SurfaceLine("out of memory\n");
     Rows rows;
@@ -115,7 +115,7 @@ Rows RefusalRows(const Drawing& drawing) {
     return rows;
 }
 
-// Init stops at the first component that fails, and keeps those before it.
+// Init stops at the first component that fails and keeps those before it.
 Rows InitRows() {
     std::set<std::string> made;
     Rows rows;

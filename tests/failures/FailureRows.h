@@ -14,15 +14,14 @@ using Operation = std::function<int(ConditionGLTest&)>;
 struct Row {
     std::string name; ///< the condition
     Step prepare;
-    Step fault; ///< spoils the request, or what the harness answers
+    Step fault; ///< spoils the request or sets a fault
     Operation run;
     int code;
     Log log;            ///< with # for what the driver chooses
     std::string change; ///< of ConditionGLTest::State: "+pool -font "
     Step check;
-    Step end =
-        {};    ///< of the condition, where a good request and a harness without faults do not do
-    int again; ///< what the operation returns then
+    Step end;  ///< ends the condition if ConditionGLTest::Restore does not
+    int again; ///< what the operation returns afterwards
 
     Row(std::string condition, Step before, Step wrong, Operation operation, int result, Log lines,
         std::string difference = "", Step checks = {}, Step after = {}, int then = ZO_SUCCESS)
@@ -37,7 +36,7 @@ Rows SurfaceRows();
 Rows DrawingRows();
 Rows TextRows();
 
-/// What the operations are called with; this one is good.
+/// The arguments of the operations. These are valid.
 struct Request {
     static constexpr unsigned int untouched = 77;
     static constexpr tagZoRectInfo all = {0, 0, 8, 8};
@@ -50,7 +49,7 @@ struct Request {
     tagZoBlitInfo blit = {ZO_WINDOW_HANDLE, ZO_WINDOW_HANDLE, all, all};
     tagZoBitmapInfo bitmap = {&color.r, ZO_FORMAT_RGBA8888, 0, 0, 1, 1, all};
     tagZoTextInfo text = {u"AB", 2, color, {}, 0, 40, 0, 0, 0};
-    unsigned int size[2] = {untouched, untouched}; ///< or a handle, where one is received
+    unsigned int size[2] = {untouched, untouched}; ///< output; a new handle in the first
 };
 
 class ConditionGLTest : public LifecycleFixture,
@@ -59,10 +58,10 @@ class ConditionGLTest : public LifecycleFixture,
 public:
     void SetUp() override;
 
-    /// Makes the request good, and the harness one without faults, where fonts show A and B.
+    /// Resets the request and all faults, and makes every font show A and B only.
     void Restore();
 
-    /// What there is, a word each.
+    /// What exists, a word each.
     std::set<std::string> State() const;
 
     void Bound() { Bind(); }

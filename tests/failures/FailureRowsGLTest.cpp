@@ -28,7 +28,7 @@ Log TakeLog() {
     return log;
 }
 
-// A new buffer is cleared, which is no drawing.
+// The clearing of a new buffer does not count.
 int CountDraws() {
     return harness::CountOf("glDrawArrays") + harness::CountOf("glDrawElements") +
            harness::CountOf("glClear") - harness::CountOf("glGenFramebuffers");
@@ -53,7 +53,7 @@ void ConditionGLTest::SetUp() {
 void ConditionGLTest::Restore() {
     static_cast<Request&>(*this) = Request();
     harness::Reset();
-    harness::Current().infoLogLength = 0; // the driver's own words are not at issue
+    harness::Current().infoLogLength = 0; // the drivers' texts differ
     harness::Current().fontFile = ZOGLES_TEST_FONT;
     UseFakeFont({{65, 4, 3, 0, 3, 4}, {66, 4, 3, 0, 3, 4}});
 }

@@ -53,10 +53,10 @@ Rows BindingRows() {
             "-bitmap -blit -bound -buffer10001:8x6 -face -font -frame -pool -rect -standard:2 "
             "-styled:empty -text ",
             expectNothing),
-        // The next attempt finds the surface there and clears up, the one after that succeeds.
+        // The next attempt finds the surface and releases it; the one after that succeeds.
         Row("first_bind_context_not_made_current", {}, Fail("eglMakeCurrent"), bind, ZO_FAILURE,
             Log{creating, initialised} + notCurrent, "+half ", {}, {}, ZO_FAILURE),
-        Row("bind_surface_there_already", bindHalf, {}, bind, ZO_FAILURE,
+        Row("bind_surface_exists", bindHalf, {}, bind, ZO_FAILURE,
             {creating, Egl("surface already created"), fails("100"), releasing}, "-half ",
             expectNothing),
         Row("bind_again_context_not_made_current", &C::WithAll, Fail("eglMakeCurrent"), bind,

@@ -38,7 +38,7 @@ Step Show(const std::vector<FakeGlyph>& glyphs) {
     return [=](C&) { UseFakeFont(glyphs); };
 }
 
-// Why the standard atlas cannot be made of a font.
+// Why a font yields no standard atlas.
 const struct {
     std::string condition;
     Step fault;
@@ -56,7 +56,7 @@ const struct {
     {"no_texture", Fail("glGenTextures"), ZO_FAILURE, noTexture},
 };
 
-// Drawing goes on with what there is, and never hands FreeType a null face.
+// Drawing goes on with the atlases that exist and never passes FreeType a null face.
 Step ExpectDraws(int styledCode) {
     return [=](C& c) {
         c.Restore();
@@ -74,7 +74,7 @@ Rows LoadingRows() {
         Row("load_size_not_set", &C::WithFont, Fail("FT_Set_Pixel_Sizes"), load, ZO_SUCCESS,
             {Standard("set pixel size fail"), generated}),
     };
-    // The standard atlas holds the new font then, and the styled one none.
+    // The standard atlas has the new font, the styled one no font.
     for (const auto& [call, code, line] :
          {std::tuple("FT_Init_FreeType", ZO_FREETYPE_FAILED, noLibrary),
           std::tuple("FT_New_Face", ZO_FONT_FACE_FAILED, noFace)}) {
@@ -100,7 +100,7 @@ void ExpectDefaultFont(C& c) {
     }
 }
 
-// The first use of text, when the client has loaded no font.
+// The first use of text before the client has loaded a font.
 Rows FirstUseRows() {
     const std::pair<std::string, Operation> entries[] = {
         {"init", &C::InitAll}, {"measure", &C::Measure}, {"text", &C::DrawText}};
