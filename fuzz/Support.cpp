@@ -1,7 +1,7 @@
 #include "Support.h"
 
-#include "support/Harness.h"
 #include "support/FakeFont.h"
+#include "support/Harness.h"
 
 #include <X11/Xlib.h>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "Session.h"
 
 #include "support/DocumentedCodes.h"
-#include "support/Harness.h"
+#include "support/FakeFont.h"
 
 #include <cstring>
 #include <iterator>
@@ -19,7 +19,6 @@ constexpr tagZoRectInfo pen = {2, 40, 0, 0};
 constexpr FT_ULong plain = 'A';
 constexpr FT_ULong alwaysImage = 'B';
 constexpr FT_ULong oneBit = 'M';
-constexpr FT_ULong characters[] = {plain, alwaysImage, oneBit};
 
 constexpr char fontPath[] = ZOGLES_TEST_FONT;
 
@@ -103,22 +102,9 @@ int Present(Client& client) {
 }
 
 void UseSessionFont() {
-    harness::State& state = harness::Current();
-    state.fontFile = fontPath;
-    state.firstChar = [](FT_Face face, FT_UInt* index) {
-        *index = FT_Get_Char_Index(face, characters[0]);
-        return characters[0];
-    };
-    state.nextChar = [](FT_Face face, FT_ULong code, FT_UInt* index) -> FT_ULong {
-        for (const FT_ULong character : characters) {
-            if (character > code) {
-                *index = FT_Get_Char_Index(face, character);
-                return character;
-            }
-        }
-        return *index = 0;
-    };
-    state.loadChar = [](FT_Face face, FT_ULong code, FT_Int32 flags) {
+    harness::Current().fontFile = fontPath;
+    UseCharacters({plain, alwaysImage, oneBit});
+    harness::Current().loadChar = [](FT_Face face, FT_ULong code, FT_Int32 flags) {
         const FT_Int32 image = code == alwaysImage || code == oneBit ? FT_LOAD_RENDER : 0;
         const FT_Int32 mono = code == oneBit ? FT_LOAD_MONOCHROME : 0;
         return FT_Load_Char(face, code, flags | image | mono);
