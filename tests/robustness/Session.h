@@ -37,6 +37,8 @@ extern const Session preparedSession;
 /// default font.
 extern const Session firstUseSession;
 
+constexpr size_t charactersOfFont = 3;
+
 /// Has run the prepared session once, so that either can follow, any number of times.
 ///
 /// Fonts map a few characters only: an outline; one that is a 1-bit image, as old fonts have them; one
