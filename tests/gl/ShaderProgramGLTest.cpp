@@ -87,6 +87,11 @@ TEST_F(ShaderProgramGLTest, DeletesWhatDoesNotBuild) {
     EXPECT_EQ(program.CreateProgram(broken, frag), 0U);
     EXPECT_THAT(harness::TakeLog()[0].text,
                 testing::MatchesRegex("Could not compile shader [0-9]+:\n\n"));
+    for (const char* query : {"glGetShaderiv", "glGetProgramiv"}) { // the status
+        harness::FailCall(query);
+        EXPECT_EQ(program.CreateProgram(vert, frag), 0U) << query;
+    }
+    EXPECT_EQ(harness::DescribeLive(), live);
 }
 
 TEST_F(ShaderProgramGLTest, RefusesNullSources) {
