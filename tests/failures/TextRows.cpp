@@ -147,9 +147,17 @@ Step SetText(const char16_t* units, unsigned int length, unsigned int size = 41)
 Rows RequestRows() {
     const Operation draw = &C::DrawText;
     const Step styled = SetText(u"AB", 2);
+    const Step boldOutline = [](C& c) {
+        UseCharacters({'A'});
+        c.text.length = 1;
+        c.text.bold = 1;
+    };
     Rows rows = {
         Row("styled_size_not_set", DrawBothStyles, And(styled, Fail("FT_Set_Pixel_Sizes")), draw,
             ZO_SUCCESS, {Styled("set pixel size fail")}),
+        Row("bold_outline_not_emboldened", DrawBothStyles,
+            And(And(Fail("FT_Outline_Embolden", 1), Fail("FT_Outline_Embolden", 2)), boldOutline),
+            draw, ZO_SUCCESS, {}, "+styled:1 -styled:2 "),
     };
     const std::tuple<const char*, Step, int, const char*> faults[] = {
         {"styled_no_texture", And(styled, Fail("glGenTextures")), ZO_FAILURE, noTexture},
