@@ -136,7 +136,7 @@ void Baseline::FillRect(const Target& target, const tagZoRectInfo& rect, const C
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer);
     glViewport(0, 0, target.width, target.height);
     glUseProgram(rectProgram);
-    glUniform4fv(rectColor, 1, &color.r);
+    glUniform4fv(rectColor, 1, color.data());
     glEnableVertexAttribArray(0);
     glBindBuffer(GL_ARRAY_BUFFER, rectBuffer);
     glVertexAttribPointer(0, 4, GL_FLOAT, GL_FALSE, 0, nullptr);

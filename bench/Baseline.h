@@ -11,6 +11,7 @@
 #include "text/FontAtlas.h"
 
 #include <GLES2/gl2.h>
+#include <array>
 #include <ft2build.h>
 #include <vector>
 #include FT_FREETYPE_H
@@ -24,12 +25,7 @@ public:
         int width;
         int height;
     };
-    struct Color {
-        float r;
-        float g;
-        float b;
-        float a;
-    };
+    using Color = std::array<float, 4>; ///< red, green, blue, alpha
     struct Vertex {
         float x;
         float y;

@@ -71,7 +71,7 @@ void Baseline::DrawText(const Target& target, const tagZoTextInfo& text, const C
     glUseProgram(textProgram);
     glEnable(GL_BLEND);
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
-    glUniform4fv(textColor, 1, &color.r);
+    glUniform4fv(textColor, 1, color.data());
     glActiveTexture(GL_TEXTURE1);
     glBindTexture(GL_TEXTURE_2D, atlas.GetFontTexture());
     glUniform1i(textTexture, 1);
