@@ -21,8 +21,8 @@ void UseFakeFont(std::vector<FakeGlyph> glyphs) {
     std::vector<FT_ULong> codes;
     for (FakeGlyph& glyph : glyphs) {
         codes.push_back(glyph.code);
-        glyph.coverage.resize(std::max(glyph.coverage.size(), size_t{glyph.width} * glyph.rows),
-                              255);
+        const size_t area = size_t{glyph.width} * glyph.rows;
+        glyph.coverage.resize(std::max(area, glyph.coverage.size()), 255);
     }
     UseCharacters(codes);
     const auto font = std::make_shared<std::vector<FakeGlyph>>(std::move(glyphs));

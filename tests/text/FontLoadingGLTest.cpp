@@ -49,8 +49,15 @@ TEST_F(FontLoadingGLTest, LoadFontReplacesTheAtlas) {
     EXPECT_EQ(harness::DescribeLive(), live);
 }
 
+TEST_F(FontLoadingGLTest, FirstUseLoadsTheDefaultFont) {
+    harness::Current().fontFile = monoPath;
+    UseCharacters({'A'});
+    Drawn(u"A");
+    EXPECT_TRUE(Shows(u"A", {}, monoPath));
+}
+
 TEST_F(FontLoadingGLTest, SharesAtlasesReloadsThemInPlaceAndDropsThemWithTheWindow) {
-    UseFirst(200);
+    UseCharacters({'A', 'g'});
     Load();
     const std::weak_ptr<FontAtlas> standard = surface->fontAtlas;
     const std::weak_ptr<FontStyleAtlas> styled = surface->fontStyleAtlas;
