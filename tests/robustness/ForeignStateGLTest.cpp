@@ -35,7 +35,7 @@ private:
         glUseProgram(program);
         glBindBuffer(GL_ARRAY_BUFFER, buffer);
         glVertexAttribPointer(0, 2, GL_BYTE, GL_TRUE, 2, nullptr);
-        for (const GLenum unit : {GL_TEXTURE0, GL_TEXTURE1, GL_TEXTURE2, GL_TEXTURE3}) {
+        for (GLenum unit = GL_TEXTURE0; unit <= GL_TEXTURE3; ++unit) {
             glActiveTexture(unit);
             glBindTexture(GL_TEXTURE_2D, texture);
         }
