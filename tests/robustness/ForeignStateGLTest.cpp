@@ -24,7 +24,6 @@ public:
         glDeleteFramebuffers(1, &framebuffer);
         glDeleteBuffers(1, &buffer);
         ShaderProgram().ReleaseProgram(program);
-        glDisable(GL_BLEND);
         glPixelStorei(GL_PACK_ALIGNMENT, 4); // for the test's own reading
     }
     ForeignState(const ForeignState&) = delete;
@@ -45,8 +44,7 @@ private:
         glViewport(1, 2, 3, 4);
         glClearColor(0.5f, 0.5f, 0.5f, 0.5f);
         glPixelStorei(GL_UNPACK_ALIGNMENT, 2);
-        glEnable(GL_BLEND); // replaces, so that rectangles and blits stand it, too
-        glBlendFunc(GL_ONE, GL_ZERO);
+        glBlendFunc(GL_ZERO, GL_ONE);
     }
 
     static void SetWhatOperationsIgnore() {
