@@ -24,7 +24,6 @@ public:
         glDeleteFramebuffers(1, &framebuffer);
         glDeleteBuffers(1, &buffer);
         ShaderProgram().ReleaseProgram(program);
-        glDisable(GL_BLEND);
         glPixelStorei(GL_PACK_ALIGNMENT, 4); // for the test's own reading
     }
     ForeignState(const ForeignState&) = delete;
@@ -35,7 +34,7 @@ private:
         glUseProgram(program);
         glBindBuffer(GL_ARRAY_BUFFER, buffer);
         glVertexAttribPointer(0, 2, GL_BYTE, GL_TRUE, 2, nullptr);
-        for (const GLenum unit : {GL_TEXTURE0, GL_TEXTURE1, GL_TEXTURE2, GL_TEXTURE3}) {
+        for (GLenum unit = GL_TEXTURE0; unit <= GL_TEXTURE3; ++unit) {
             glActiveTexture(unit);
             glBindTexture(GL_TEXTURE_2D, texture);
         }
@@ -45,8 +44,7 @@ private:
         glViewport(1, 2, 3, 4);
         glClearColor(0.5f, 0.5f, 0.5f, 0.5f);
         glPixelStorei(GL_UNPACK_ALIGNMENT, 2);
-        glEnable(GL_BLEND); // replaces, so that rectangles and blits stand it, too
-        glBlendFunc(GL_ONE, GL_ZERO);
+        glBlendFunc(GL_ZERO, GL_ONE);
     }
 
     static void SetWhatOperationsIgnore() {
