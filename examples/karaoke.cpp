@@ -109,7 +109,7 @@ void ShowPicture(ZoGLDrawSurface& surface, const Picture& picture) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    const Arguments arguments = ReadArguments(argc, argv, 2560);
+    const Arguments arguments = ReadArguments(argc, argv, 2600);
     XWindow window(all.width, all.height);
     ZoGLDrawSurface surface;
     Check("binding", surface.ZoCreateGLWindowSurface(window.Show()));
