@@ -46,11 +46,11 @@ unsigned int Figure::CreateBuffer(int width, int height, const Color& color) {
 
 void Figure::DrawLabel(unsigned int buffer, std::u16string_view text, const Color& color, int x,
                        int baseline) {
-    typesetter.DrawLeft(buffer, text, {labelSize, color}, x, baseline);
+    typesetter.Write(buffer, text, {labelSize, color}, x, baseline);
 }
 
 void Figure::Label(std::u16string_view text, int x, int baseline) {
-    typesetter.DrawCentered(page, text, {labelSize, ink}, x, baseline);
+    typesetter.Write(page, text, {labelSize, ink}, x, baseline, Align::Centre);
 }
 
 Picture Figure::Read(unsigned int buffer, int width, int height) {

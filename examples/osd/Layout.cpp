@@ -39,8 +39,8 @@ Layout::Layout(const Rect& windowRect)
     scrollbar = {list.Right() + Scale(8), list.y, Scale(6), list.height};
 
     volume = {window.width - margin - Scale(340), margin, Scale(340), Scale(64)};
-    volumeIcon = {volume.x + Scale(20), volume.y + Scale(18), Scale(28), Scale(28)};
-    volumeBar = {volumeIcon.Right() + Scale(18), volume.y + Scale(20), Scale(200), Scale(24)};
+    volumeIcon = {volume.x + Scale(20), volume.y + Scale(18), Scale(29), Scale(28)};
+    volumeBar = {volumeIcon.Right() + Scale(17), volume.y + Scale(20), Scale(200), Scale(24)};
 
     subtitleCenter = (menu.Right() + window.width - margin + gap) / 2;
     subtitleLine[1] = banner.y - Scale(36);

@@ -49,11 +49,11 @@ void Menu::Paint(Stage& stage) {
     first = 0;
     offset = 0;
     const Rect row{0, 0, layout.list.width, layout.rowHeight};
-    stage.Fill(row, Palette::well);
+    stage.FillRounded(row, 0, Palette::well);
     stage.FillRounded(row, layout.Scale(10), Palette::accent);
     stage.ReduceTo(pill, row.width, row.height);
     const Rect handle{0, 0, GetThumb().width, GetThumb().height};
-    stage.Fill(handle, Palette::track);
+    stage.FillRounded(handle, 0, Palette::track);
     stage.FillRounded(handle, handle.width / 2, Palette::quiet);
     stage.ReduceTo(thumb, handle.width, handle.height);
 
@@ -68,10 +68,10 @@ void Menu::PaintHeader(unsigned int buffer) {
     const int baseline =
         Typesetter::CenterBaseline(layout.menu.y, layout.list.y - layout.menu.y, layout.Scale(26));
     const Type title{layout.Scale(26), Palette::text, true, false};
-    typesetter.DrawLeft(buffer, u"Channels", title, layout.list.x + layout.Scale(16), baseline);
+    typesetter.Write(buffer, u"Channels", title, layout.list.x + layout.Scale(16), baseline);
     const Type note{layout.Scale(18), Palette::quiet, false, true};
-    typesetter.DrawRight(buffer, u"all languages", note, layout.list.Right() - layout.Scale(14),
-                         baseline);
+    typesetter.Write(buffer, u"all languages", note, layout.list.Right() - layout.Scale(14),
+                     baseline, Align::Right);
 }
 
 void Menu::PaintRow(unsigned int buffer, int top, int index, bool isHighlighted) {
@@ -80,13 +80,13 @@ void Menu::PaintRow(unsigned int buffer, int top, int index, bool isHighlighted)
     const int baseline = Typesetter::CenterBaseline(top, layout.rowHeight, pixels);
     const Color strong = isHighlighted ? Palette::ink : Palette::text;
     const Color weak = isHighlighted ? Palette::ink : Palette::quiet;
-    typesetter.DrawRight(buffer, ToText(firstNumber + channel), {pixels, weak}, layout.Scale(58),
-                         baseline);
-    typesetter.DrawLeft(buffer, channels[channel].name, {pixels, strong, isHighlighted, false},
-                        layout.Scale(76), baseline);
+    typesetter.Write(buffer, ToText(firstNumber + channel), {pixels, weak}, layout.Scale(58),
+                     baseline, Align::Right);
+    typesetter.Write(buffer, channels[channel].name, {pixels, strong, isHighlighted, false},
+                     layout.Scale(76), baseline);
     const int small = layout.Scale(17);
-    typesetter.DrawRight(buffer, channels[channel].language, {small, weak},
-                         layout.list.width - layout.Scale(14), baseline);
+    typesetter.Write(buffer, channels[channel].language, {small, weak},
+                     layout.list.width - layout.Scale(14), baseline, Align::Right);
 }
 
 void Menu::PaintHighlight() {

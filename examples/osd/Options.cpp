@@ -1,16 +1,12 @@
 #include "Options.h"
 
-#include "common/Example.h"
-
 #include <cstdio>
 #include <cstdlib>
-#include <unistd.h>
 
 namespace {
 
 constexpr char usage[] = "usage: zogles-osd [--frames N] [--size WxH] [--out DIR] [--font FILE] "
                          "[--window]\n";
-constexpr char platformFont[] = "/system/fonts/CC3.ttf";
 
 // Reads a number within limits, and moves past it.
 bool ReadNumber(const char** text, int least, int most, int* value) {
@@ -45,7 +41,6 @@ bool ReadOption(const std::string& name, const char* value, Options* options) {
 } // namespace
 
 bool ReadOptions(int argc, char* argv[], Options* options) {
-    options->fontFile = access(platformFont, R_OK) == 0 ? platformFont : fontFile;
     for (int i = 1; i < argc; ++i) {
         const std::string name = argv[i];
         if (name == "--window") {

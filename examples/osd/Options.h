@@ -9,8 +9,7 @@ struct Options {
     int width = 1280;
     int height = 720;
     std::string outputFolder = "out";
-    std::string
-        fontFile; ///< if not given, the platform's font, or else the one of a Debian package
+    std::string fontFile = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
     bool staysOpen = false;
 };
 

@@ -79,7 +79,7 @@ void Scene::PaintPanels(Stage& stage) {
     stage.FillRounded(bar, bar.width / 2, Palette::track);
     PaintProgressTrack(stage);
     stage.Paint(pictures.logo, layout.logo);
-    PaintVolumeIcon(stage);
+    stage.Paint(pictures.volume, layout.volumeIcon);
 }
 
 // With the round end of the part that is done, which the frames then lengthen.
@@ -89,51 +89,31 @@ void Scene::PaintProgressTrack(Stage& stage) {
     stage.FillRounded({bar.x, bar.y, bar.height, bar.height}, bar.height / 2, Palette::accent);
 }
 
-// A loudspeaker: a box, a cone that opens to the right, and two bars for its sound.
-void Scene::PaintVolumeIcon(Stage& stage) {
-    const Rect fine = layout.volumeIcon.Times(stage.GetScale());
-    const int middle = fine.y + fine.height / 2;
-    const int box = fine.width / 5;
-    const int cone = fine.width * 11 / 20;
-    stage.FillFine({fine.x, middle - box, box + 1, 2 * box}, Palette::text);
-    for (int x = box; x < cone; ++x) {
-        const int half = box + (x - box) * (fine.height / 2 - box) / (cone - box);
-        stage.FillFine({fine.x + x, middle - half, 1, 2 * half}, Palette::text);
-    }
-    const Rect& icon = layout.volumeIcon;
-    const int thickness = layout.Scale(3);
-    const int heights[] = {icon.height * 2 / 5, icon.height * 4 / 5};
-    for (int i = 0; i < 2; ++i) {
-        const Rect bar{icon.x + icon.width * (14 + 5 * i) / 20,
-                       icon.y + (icon.height - heights[i]) / 2, thickness, heights[i]};
-        stage.FillRounded(bar, thickness / 2, Palette::text);
-    }
-}
-
 void Scene::PaintTexts() {
     menu.PaintHeader(backdrop);
 
     const int* line = layout.bannerLine;
     const Type number{layout.Scale(36), Palette::accent, true, false};
-    const int width = typesetter.DrawLeft(backdrop, u"104", number, layout.bannerLeft, line[0]);
+    const int width = typesetter.Write(backdrop, u"104", number, layout.bannerLeft, line[0]);
     const Type name{layout.Scale(36), Palette::text, true, false};
-    typesetter.DrawLeft(backdrop, u"Marée Haute", name,
-                        layout.bannerLeft + width + layout.Scale(20), line[0]);
+    typesetter.Write(backdrop, u"Marée Haute", name, layout.bannerLeft + width + layout.Scale(20),
+                     line[0]);
 
     const Type title{layout.Scale(24), Palette::text};
-    typesetter.DrawLeft(backdrop, u"Les Îles du Nord · Épisode 3", title, layout.bannerLeft,
-                        line[1]);
-    typesetter.DrawRight(backdrop, u"21:15 – 22:30", title, layout.bannerRight, line[1]);
+    typesetter.Write(backdrop, u"Les Îles du Nord · Épisode 3", title, layout.bannerLeft, line[1]);
+    typesetter.Write(backdrop, u"21:15 – 22:30", title, layout.bannerRight, line[1], Align::Right);
 
     const Type detail{layout.Scale(19), Palette::quiet, false, true};
-    typesetter.DrawLeft(backdrop, u"Phares, embruns et longues soirées d’été le long de la côte",
-                        detail, layout.bannerLeft, line[2]);
-    typesetter.DrawRight(backdrop, u"then: Météo des côtes", detail, layout.bannerRight, line[2]);
+    typesetter.Write(backdrop, u"Phares, embruns et longues soirées d’été le long de la côte",
+                     detail, layout.bannerLeft, line[2]);
+    typesetter.Write(backdrop, u"then: Météo des côtes", detail, layout.bannerRight, line[2],
+                     Align::Right);
 
     const Type level{layout.Scale(24), Palette::text, true, false};
-    typesetter.DrawRight(
+    typesetter.Write(
         backdrop, u"65", level, layout.volume.Right() - layout.Scale(20),
-        Typesetter::CenterBaseline(layout.volume.y, layout.volume.height, level.pixels));
+        Typesetter::CenterBaseline(layout.volume.y, layout.volume.height, level.pixels),
+        Align::Right);
 }
 
 void Scene::ArrangeSubtitles() {
@@ -161,7 +141,7 @@ void Scene::DrawClock(double minutes) {
         text[places[i]] = static_cast<char16_t>(u'0' + digits[i]);
     }
     const Type type{layout.standardText, Palette::text};
-    typesetter.DrawRight(frame, text, type, layout.bannerRight, layout.bannerLine[0]);
+    typesetter.Write(frame, text, type, layout.bannerRight, layout.bannerLine[0], Align::Right);
 }
 
 void Scene::DrawProgress(double minutes) {

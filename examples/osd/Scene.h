@@ -12,6 +12,7 @@ struct ScenePictures {
     Picture background; ///< stands in for the video
     Picture glass;      ///< the background as seen through frosted glass, small
     Picture logo;       ///< of the channel, with hard edges, four times as large as it is shown
+    Picture volume;     ///< a loudspeaker, the same
 };
 
 class Scene {
@@ -34,7 +35,6 @@ private:
     void PaintGlass();
     void PaintPanels(Stage& stage);
     void PaintProgressTrack(Stage& stage);
-    void PaintVolumeIcon(Stage& stage);
     void PaintTexts();
     void ArrangeSubtitles();
     void DrawClock(double minutes);

@@ -31,14 +31,6 @@ Stage::~Stage() {
     }
 }
 
-void Stage::Fill(const Rect& rect, const Color& color) {
-    FillFine(rect.Times(scale), color);
-}
-
-void Stage::FillFine(const Rect& rect, const Color& color) {
-    canvas.Fill(buffer, rect, color);
-}
-
 void Stage::ForEachStrip(const Rect& rect, int radius,
                          const std::function<void(const Rect&)>& draw) const {
     const Rect fine = rect.Times(scale);
@@ -52,7 +44,7 @@ void Stage::ForEachStrip(const Rect& rect, int radius,
 }
 
 void Stage::FillRounded(const Rect& rect, int radius, const Color& color) {
-    ForEachStrip(rect, radius, [&](const Rect& strip) { FillFine(strip, color); });
+    ForEachStrip(rect, radius, [&](const Rect& strip) { canvas.Fill(buffer, strip, color); });
 }
 
 void Stage::Paint(const Picture& picture, const Rect& rect, unsigned char alpha) {

@@ -15,18 +15,11 @@ public:
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
 
-    /// How many pixels of the stage one pixel of the result has along each axis.
-    int GetScale() const { return scale; }
-
     // Rectangles and radii are in pixels of the result.
-    void Fill(const Rect& rect, const Color& color);
     void FillRounded(const Rect& rect, int radius, const Color& color);
     void Paint(const Picture& picture, const Rect& rect, unsigned char alpha = 255);
     /// Copies the same region of a buffer of the result's size, with round corners.
     void CopyRounded(unsigned int from, const Rect& rect, int radius);
-
-    /// Fills a rectangle in pixels of the stage.
-    void FillFine(const Rect& rect, const Color& color);
 
     /// Copies the top-left part of the stage to the top-left corner of a buffer, at the result's scale.
     void ReduceTo(unsigned int to, int width, int height);
@@ -36,7 +29,7 @@ private:
                       const std::function<void(const Rect&)>& draw) const;
 
     Canvas& canvas;
-    int scale;
+    int scale; // pixels of the stage for one of the result, along each axis
     unsigned int buffer;
     unsigned int half;
 };

@@ -78,24 +78,13 @@ void Typesetter::DrawOutlined(unsigned int buffer, const Line& line, const Type&
     Draw(buffer, line, type, x, baseline);
 }
 
-int Typesetter::DrawLeft(unsigned int buffer, std::u16string_view text, const Type& type, int x,
-                         int baseline) {
+int Typesetter::Write(unsigned int buffer, std::u16string_view text, const Type& type, int x,
+                      int baseline, Align align) {
     const Line line = Arrange(text, type);
-    Draw(buffer, line, type, x, baseline);
-    return line.width;
-}
-
-int Typesetter::DrawRight(unsigned int buffer, std::u16string_view text, const Type& type,
-                          int right, int baseline) {
-    const Line line = Arrange(text, type);
-    Draw(buffer, line, type, right - line.width, baseline);
-    return line.width;
-}
-
-int Typesetter::DrawCentered(unsigned int buffer, std::u16string_view text, const Type& type,
-                             int center, int baseline) {
-    const Line line = Arrange(text, type);
-    Draw(buffer, line, type, center - line.width / 2, baseline);
+    const int shift = align == Align::Left     ? 0
+                      : align == Align::Centre ? line.width / 2
+                                               : line.width;
+    Draw(buffer, line, type, x - shift, baseline);
     return line.width;
 }
 

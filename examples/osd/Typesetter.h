@@ -15,6 +15,8 @@ struct Type {
     bool italic = false;
 };
 
+enum class Align { Left, Centre, Right };
+
 /// A line cut into words, each with its place. It refers to the text that it was made from.
 struct Line {
     struct Word {
@@ -37,13 +39,9 @@ public:
     void DrawOutlined(unsigned int buffer, const Line& line, const Type& type, const Color& outline,
                       int thickness, int x, int baseline);
 
-    /// These three return the width of what they drew.
-    int DrawLeft(unsigned int buffer, std::u16string_view text, const Type& type, int x,
-                 int baseline);
-    int DrawRight(unsigned int buffer, std::u16string_view text, const Type& type, int right,
-                  int baseline);
-    int DrawCentered(unsigned int buffer, std::u16string_view text, const Type& type, int center,
-                     int baseline);
+    /// Draws a text that starts, ends or is centred at x. Returns its width.
+    int Write(unsigned int buffer, std::u16string_view text, const Type& type, int x, int baseline,
+              Align align = Align::Left);
 
     /// The baseline that centres capital letters between `top` and `top + height`.
     static int CenterBaseline(int top, int height, int pixels);

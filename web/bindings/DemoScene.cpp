@@ -15,7 +15,8 @@ constexpr int scrollStep = 1; // pixels of the design in a frame
 // A picture that the page decoded, an ImageData.
 Picture ToPicture(const val& image) {
     const auto rgba = image["data"].as<std::string>();
-    return {image["width"].as<unsigned int>(), image["height"].as<unsigned int>(),
+    return {image["width"].as<unsigned int>(),
+            image["height"].as<unsigned int>(),
             {rgba.begin(), rgba.end()}};
 }
 
@@ -27,15 +28,13 @@ public:
         : canvas(surface), layout(canvas.GetWindowRect()), typesetter(canvas, layout.standardText),
           scene(canvas, typesetter, layout,
                 {ToPicture(pictures["background"]), ToPicture(pictures["glass"]),
-                 ToPicture(pictures["logo"])}) {}
+                 ToPicture(pictures["logo"]), ToPicture(pictures["volume"])}) {}
 
     /// Creates the scene's buffers, once: their handles stay valid after a loss of the window.
     void CreateBuffers() { scene.CreateBuffers(); }
 
     /// Loads a font at the size that the scene is laid out for.
-    void LoadFont(const std::string& path) {
-        canvas.LoadFont(path, layout.standardText);
-    }
+    void LoadFont(const std::string& path) { canvas.LoadFont(path, layout.standardText); }
 
     /// Paints everything that does not move, in the font that is loaded.
     void Paint() { scene.Paint(); }

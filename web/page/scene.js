@@ -26,10 +26,10 @@ const minutesPerFrame = 1 / 60; // a minute in a second
 
 /** The pictures of the demo that the scene is made of. */
 export async function fetchScenePictures() {
-    const [background, glass, logo] = await Promise.all(
-        ['background', 'glass', 'logo'].map(fetchPicture),
+    const [background, glass, logo, volume] = await Promise.all(
+        ['background', 'glass', 'logo', 'volume'].map(fetchPicture),
     );
-    return { background, glass, logo };
+    return { background, glass, logo, volume };
 }
 
 /** Tells of "state" when it starts or stops to play. */

@@ -60,6 +60,7 @@ export interface ScenePictures {
     background: ImageData;
     glass: ImageData;
     logo: ImageData;
+    volume: ImageData;
 }
 
 export interface DemoScene {
