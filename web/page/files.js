@@ -166,8 +166,9 @@ export class Files extends Emitter {
      */
     #describe(path, size) {
         const { engine } = this;
-        const { name, mapped, blank, atlasWidth, atlasHeight, leftOut } =
-            engine.withoutLog(() => engine.library.DescribeFont(path, size));
+        const { name, mapped, blank, atlasWidth, atlasHeight, leftOut } = engine.withoutLog(() =>
+            engine.library.DescribeFont(path, size),
+        );
         this.#say(
             `${name}, ${mapped} characters, ${blank} of them blank.`,
             `Its atlas at ${size} pixels is ${atlasWidth} × ${atlasHeight} texels.`,
