@@ -1,4 +1,4 @@
-// What became of a font: its name, its atlas, and the characters that found no room there.
+// Describes a loaded font: its name, its atlas, and the characters that did not fit.
 
 #include "text/FontAtlas.h"
 #include "text/FontFace.h"
@@ -11,51 +11,43 @@ namespace {
 
 constexpr char tag[] = "FontReport";
 
-struct FontReport {
-    std::string family;
-    std::string style;
-    unsigned int mapped = 0;      ///< characters that the font maps
-    unsigned int blank = 0;       ///< of these, how many leave no mark
-    unsigned int atlasWidth = 0;  ///< texels
-    unsigned int atlasHeight = 0; ///< texels
-    /// The codes of characters that are not in the atlas.
-    emscripten::val leftOut = emscripten::val::array();
-};
-
-// Names are for people to read; a font need not have any.
+// A font need not have a name.
 std::string NameOf(const FT_String* name) {
     return name == nullptr ? "" : name;
 }
 
-void CountCharacters(FT_Face face, const GlyphMap& glyphs, FontReport& report) {
+void CountCharacters(FT_Face face, const GlyphMap& glyphs, emscripten::val& report) {
+    unsigned int mapped = 0;
+    unsigned int blank = 0;
     std::vector<unsigned int> leftOut;
     FT_UInt index = 0;
     for (FT_ULong code = FT_Get_First_Char(face, &index); index != 0;
          code = FT_Get_Next_Char(face, code, &index)) {
-        ++report.mapped;
+        ++mapped;
         const auto glyph = glyphs.find(code);
         if (glyph == glyphs.end()) {
             leftOut.push_back(static_cast<unsigned int>(code));
         } else if (glyph->second.bitmapWidth == 0 || glyph->second.bitmapHeight == 0) {
-            ++report.blank;
+            ++blank;
         }
     }
-    report.leftOut = emscripten::val::array(leftOut.begin(), leftOut.end());
+    report.set("mapped", mapped);
+    report.set("blank", blank);
+    report.set("leftOut", emscripten::val::array(leftOut.begin(), leftOut.end()));
 }
 
-// The surface's own atlas is nobody else's to see, so another one is built the same way, and dropped.
+// The surface does not reveal its atlas, so another one is built the same way.
 // Logs what the load logs, once more.
-FontReport DescribeFont(const std::string& path, unsigned int size) {
-    FontReport report;
+emscripten::val DescribeFont(const std::string& path, unsigned int size) {
+    emscripten::val report = emscripten::val::object();
     FT_Library library = nullptr;
     FT_Face face = nullptr;
     FontAtlas atlas;
     if (OpenFace(tag, path.c_str(), library, face) == ZO_SUCCESS &&
         atlas.LoadFont(face, size) == ZO_SUCCESS) {
-        report.family = NameOf(face->family_name);
-        report.style = NameOf(face->style_name);
-        report.atlasWidth = atlas.GetFontTextureWidth();
-        report.atlasHeight = atlas.GetFontTextureHeight();
+        report.set("name", NameOf(face->family_name) + " " + NameOf(face->style_name));
+        report.set("atlasWidth", atlas.GetFontTextureWidth());
+        report.set("atlasHeight", atlas.GetFontTextureHeight());
         CountCharacters(face, atlas.GetGlyphs(), report);
     }
     CloseFace(library, face);
@@ -65,13 +57,5 @@ FontReport DescribeFont(const std::string& path, unsigned int size) {
 } // namespace
 
 EMSCRIPTEN_BINDINGS(fonts) {
-    emscripten::value_object<FontReport>("FontReport")
-        .field("family", &FontReport::family)
-        .field("style", &FontReport::style)
-        .field("mapped", &FontReport::mapped)
-        .field("blank", &FontReport::blank)
-        .field("atlasWidth", &FontReport::atlasWidth)
-        .field("atlasHeight", &FontReport::atlasHeight)
-        .field("leftOut", &FontReport::leftOut);
     emscripten::function("DescribeFont", &DescribeFont);
 }

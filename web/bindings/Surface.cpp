@@ -1,4 +1,4 @@
-// The library's one class, its records and its result codes, under their own names.
+// The library's one class and its records, under their own names.
 
 #include "platform/LogFilter.h"
 
@@ -7,66 +7,23 @@
 #include <string>
 #include <zogles/ZoGLDrawSurface.h>
 
-using emscripten::allow_raw_pointers;
-using emscripten::class_;
+using emscripten::val;
 using emscripten::value_object;
 
 namespace {
 
-/// A code, and what an operation hands out along with it.
-struct CodeAndHandle {
-    int code;
-    unsigned int handle;
-};
-
-struct CodeAndSize {
-    int code;
-    unsigned int width;
-    unsigned int height;
-};
-
-/// The fields of `tagZoTextInfo` that count, with the text itself.
-struct TextFields {
-    std::u16string text;
-    unsigned int length;
-    tagZoColorRGBA color;
-    unsigned int fontSize;
-    bool bold;
-    bool italic;
-};
-
-/// The fields of `tagZoBitmapInfo`, with the pixels themselves; without any, `data` is null.
-struct BitmapFields {
-    std::string data;
-    int format;
-    unsigned int width;
-    unsigned int height;
-    tagZoRectInfo rect;
-};
-
-// The record promises `length` units, so the text must hold as many.
-tagZoTextInfo ToRecord(const TextFields& fields) {
-    tagZoTextInfo info = {};
-    info.text = fields.text.c_str();
-    info.length = static_cast<unsigned int>(std::min<size_t>(fields.length, fields.text.size()));
-    info.color = fields.color;
-    info.fontSize = fields.fontSize;
-    info.bold = fields.bold ? 1 : 0;
-    info.italic = fields.italic ? 1 : 0;
-    return info;
-}
-
-// The platform's window is the page's canvas, which Emscripten knows by itself: any value but null
-// stands for it.
+// The platform's window is the page's canvas, which Emscripten finds itself: any value but null stands
+// for it.
 int Bind(ZoGLDrawSurface& surface, bool hasWindow) {
     const uintptr_t canvas = hasWindow ? 1 : 0;
     return surface.ZoCreateGLWindowSurface(reinterpret_cast<ANativeWindow*>(canvas));
 }
 
-CodeAndHandle CreateBuffer(ZoGLDrawSurface& surface, unsigned int width, unsigned int height,
-                           int format) {
-    CodeAndHandle result = {ZO_SUCCESS, ZO_NO_HANDLE};
-    result.code = surface.ZoCreateGLFBO(&result.handle, width, height, format);
+val CreateBuffer(ZoGLDrawSurface& surface, unsigned int width, unsigned int height, int format) {
+    unsigned int handle = ZO_NO_HANDLE;
+    val result = val::object();
+    result.set("code", surface.ZoCreateGLFBO(&handle, width, height, format));
+    result.set("handle", handle);
     return result;
 }
 
@@ -84,14 +41,14 @@ int DisplayBuffer(ZoGLDrawSurface& surface, unsigned int fbo, const tagZoRectInf
     return surface.ZoDisplayFBO(fbo, &src, &dst);
 }
 
-int DisplayBitmap(ZoGLDrawSurface& surface, const BitmapFields& fields) {
+int DisplayBitmap(ZoGLDrawSurface& surface, const val& fields) {
+    const auto pixels = fields["data"].as<std::string>();
     tagZoBitmapInfo info = {};
-    info.data =
-        fields.data.empty() ? nullptr : reinterpret_cast<const unsigned char*>(fields.data.data());
-    info.format = fields.format;
-    info.width = fields.width;
-    info.height = fields.height;
-    info.rect = fields.rect;
+    info.data = pixels.empty() ? nullptr : reinterpret_cast<const unsigned char*>(pixels.data());
+    info.format = fields["format"].as<int>();
+    info.width = fields["width"].as<unsigned int>();
+    info.height = fields["height"].as<unsigned int>();
+    info.rect = fields["rect"].as<tagZoRectInfo>();
     return surface.ZoDisplayBitmap(&info);
 }
 
@@ -99,16 +56,33 @@ int LoadFont(ZoGLDrawSurface& surface, const std::string& path, unsigned int siz
     return surface.ZoLoadFont(path.c_str(), size);
 }
 
-CodeAndSize MeasureText(ZoGLDrawSurface& surface, const TextFields& fields) {
-    const tagZoTextInfo info = ToRecord(fields);
-    CodeAndSize result = {ZO_SUCCESS, 0, 0};
-    result.code = surface.ZoGetTextSize(&info, &result.width, &result.height);
+// The library reads `length` units, so the text must have as many.
+tagZoTextInfo MakeRecord(const std::u16string& text, unsigned int length) {
+    tagZoTextInfo info = {};
+    info.text = text.c_str();
+    info.length = static_cast<unsigned int>(std::min<size_t>(length, text.size()));
+    return info;
+}
+
+val MeasureText(ZoGLDrawSurface& surface, const std::u16string& text, unsigned int length) {
+    const tagZoTextInfo info = MakeRecord(text, length);
+    unsigned int width = 0;
+    unsigned int height = 0;
+    val result = val::object();
+    result.set("code", surface.ZoGetTextSize(&info, &width, &height));
+    result.set("width", width);
+    result.set("height", height);
     return result;
 }
 
-int DrawText(ZoGLDrawSurface& surface, unsigned int handle, const TextFields& fields,
+int DrawText(ZoGLDrawSurface& surface, unsigned int handle, const val& fields,
              const tagZoRectInfo& rect) {
-    const tagZoTextInfo info = ToRecord(fields);
+    const auto text = fields["text"].as<std::u16string>();
+    tagZoTextInfo info = MakeRecord(text, fields["length"].as<unsigned int>());
+    info.color = fields["color"].as<tagZoColorRGBA>();
+    info.fontSize = fields["fontSize"].as<unsigned int>();
+    info.bold = fields["bold"].as<bool>() ? 1 : 0;
+    info.italic = fields["italic"].as<bool>() ? 1 : 0;
     return surface.ZoDrawText(handle, &info, &rect);
 }
 
@@ -134,28 +108,8 @@ EMSCRIPTEN_BINDINGS(zogles) {
         .field("dstHandle", &tagZoBlitInfo::dstHandle)
         .field("srcRect", &tagZoBlitInfo::srcRect)
         .field("dstRect", &tagZoBlitInfo::dstRect);
-    value_object<TextFields>("TextFields")
-        .field("text", &TextFields::text)
-        .field("length", &TextFields::length)
-        .field("color", &TextFields::color)
-        .field("fontSize", &TextFields::fontSize)
-        .field("bold", &TextFields::bold)
-        .field("italic", &TextFields::italic);
-    value_object<BitmapFields>("BitmapFields")
-        .field("data", &BitmapFields::data)
-        .field("format", &BitmapFields::format)
-        .field("width", &BitmapFields::width)
-        .field("height", &BitmapFields::height)
-        .field("rect", &BitmapFields::rect);
-    value_object<CodeAndHandle>("CodeAndHandle")
-        .field("code", &CodeAndHandle::code)
-        .field("handle", &CodeAndHandle::handle);
-    value_object<CodeAndSize>("CodeAndSize")
-        .field("code", &CodeAndSize::code)
-        .field("width", &CodeAndSize::width)
-        .field("height", &CodeAndSize::height);
 
-    class_<ZoGLDrawSurface>("ZoGLDrawSurface")
+    emscripten::class_<ZoGLDrawSurface>("ZoGLDrawSurface")
         .constructor<>()
         .function("ZoCreateGLWindowSurface", &Bind)
         .function("ZoDestoryGLWindowSurface", &ZoGLDrawSurface::ZoDestoryGLWindowSurface)

@@ -1,5 +1,5 @@
-// Prints a script with what the page says of result codes and operations, as the library's own header
-// and guide have it:
+// Prints a script with the page's texts on result codes and operations, from the library's header and
+// guide:
 //   node describe.mjs ZoGLDrawSurface.h when-something-fails.md >library.js
 import { readFileSync } from 'node:fs';
 
@@ -46,6 +46,9 @@ function describeOperations() {
     return operations;
 }
 
+const version = [...header.matchAll(/#define ZOGLES_VERSION_\w+ (\d+)/g)].map(([, part]) => part);
+
 console.log(`// Made from the library's header and guide.
+export const version = '${version.join('.')}';
 export const results = ${JSON.stringify(describeResults(), null, 2)};
 export const operationNotes = ${JSON.stringify(describeOperations(), null, 2)};`);

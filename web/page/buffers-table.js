@@ -1,19 +1,16 @@
 // The table of buffers: the handle, the size and a live miniature of each.
 
-import { find, make } from './dom.js';
-import { copyToCanvas, formatHandle, isReadable, mostBuffers, windowHandle } from './targets.js';
+import { Emitter, find, make } from './dom.js';
+import { formatHandle, mostBuffers, windowHandle } from './targets.js';
 
 const pauseBetweenMiniatures = 100; // milliseconds; one is drawn at a time
-const mostWidth = 112;
-const mostHeight = 63;
 
-/** Tells of "view" and "destroy" with a handle. */
-export class BuffersTable extends EventTarget {
+/** Emits "view" and "destroy" with a handle. */
+export class BuffersTable extends Emitter {
     /** @type {Map<number, HTMLCanvasElement>} */
     #miniatures = new Map();
 
     #next = 0;
-    #scratch = document.createElement('canvas');
 
     /**
      * @param {import('./engine.js').Engine} engine
@@ -24,88 +21,52 @@ export class BuffersTable extends EventTarget {
         this.engine = engine;
         this.nameOf = nameOf;
         this.body = find('buffer-rows', HTMLElement);
-        this.count = find('buffer-count', HTMLElement);
-        engine.addEventListener('targets', () => this.#fill());
-        engine.addEventListener('binding', () => this.#fill());
+        engine.on('targets', () => this.#fill());
+        engine.on('binding', () => this.#fill());
         setInterval(() => this.#drawNext(), pauseBetweenMiniatures);
         this.#fill();
     }
 
     #fill() {
         const handles = [...this.engine.targets.keys()].filter((handle) => handle !== windowHandle);
-        const state = this.engine.isBound ? 'in use' : 'remembered until a window is bound';
-        this.count.textContent = `${handles.length} of ${mostBuffers} ${state}`;
-        this.#forgetMiniatures(handles);
+        const state = this.engine.isBound ? 'in use' : 'restored when a window is bound';
+        find('buffer-count', HTMLElement).textContent =
+            `${handles.length} of ${mostBuffers} ${state}`;
+        const known = this.#miniatures;
+        this.#miniatures = new Map(
+            handles.map((handle) => [handle, known.get(handle) ?? this.#makeMiniature(handle)]),
+        );
         this.body.replaceChildren(...handles.map((handle) => this.#makeRow(handle)));
+        handles.filter((handle) => !known.has(handle)).forEach((handle) => this.draw(handle));
+    }
+
+    /** @param {number} handle */
+    #makeMiniature(handle) {
+        return make('canvas', { role: 'img', 'aria-label': `Contents of ${formatHandle(handle)}` });
     }
 
     /** @param {number} handle */
     #makeRow(handle) {
-        const target = this.engine.targets.get(handle);
-        const name = formatHandle(handle);
-        const holds = target && isReadable(target) ? this.#makeMiniature(handle, target) : '—';
+        const { width, height } = this.engine.targets.get(handle) ?? {};
+        const name = make('small', {}, this.nameOf(handle));
         return make(
             'tr',
             {},
-            make(
-                'th',
-                { scope: 'row' },
-                make('code', {}, name),
-                make('small', {}, this.nameOf(handle)),
-            ),
-            make('td', {}, `${target?.width} × ${target?.height}`),
-            make('td', { class: 'miniature' }, holds),
-            make(
-                'td',
-                {},
-                this.#makeButton('view', 'View', handle),
-                this.#makeButton('destroy', 'Destroy', handle),
-            ),
+            make('th', { scope: 'row' }, make('code', {}, formatHandle(handle)), name),
+            make('td', {}, `${width} × ${height}`),
+            make('td', {}, this.#miniatures.get(handle) ?? ''),
+            make('td', {}, this.#makeButton('View', handle), this.#makeButton('Destroy', handle)),
         );
     }
 
-    /** @param {number[]} handles those that are still there */
-    #forgetMiniatures(handles) {
-        for (const handle of this.#miniatures.keys()) {
-            if (!handles.includes(handle)) {
-                this.#miniatures.delete(handle);
-            }
-        }
-    }
-
     /**
-     * A miniature stays what it is while others come and go.
-     *
-     * @param {number} handle
-     * @param {import('./targets.js').Target} target
-     */
-    #makeMiniature(handle, { width, height }) {
-        const scale = Math.min(mostWidth / width, mostHeight / height, 1);
-        const size = {
-            width: Math.max(1, Math.round(width * scale)),
-            height: Math.max(1, Math.round(height * scale)),
-        };
-        const known = this.#miniatures.get(handle);
-        if (known?.width === size.width && known.height === size.height) {
-            return known;
-        }
-        const label = `What ${formatHandle(handle)} holds`;
-        const miniature = make('canvas', { role: 'img', 'aria-label': label, ...size });
-        this.#miniatures.set(handle, miniature);
-        return miniature;
-    }
-
-    /**
-     * @param {string} type
      * @param {string} label
      * @param {number} handle
      */
-    #makeButton(type, label, handle) {
-        const button = make('button', { type: 'button', class: 'quiet' }, label);
-        button.setAttribute('aria-label', `${label} ${formatHandle(handle)}`);
-        button.addEventListener('click', () =>
-            this.dispatchEvent(new CustomEvent(type, { detail: handle })),
-        );
+    #makeButton(label, handle) {
+        const name = `${label} ${formatHandle(handle)}`;
+        const button = make('button', { type: 'button', 'aria-label': name }, label);
+        button.addEventListener('click', () => this.emit(label.toLowerCase(), handle));
         return button;
     }
 
@@ -119,20 +80,11 @@ export class BuffersTable extends EventTarget {
         }
     }
 
-    /**
-     * Draws a miniature at once, where there is one.
-     *
-     * @param {number} handle
-     */
+    /** @param {number} handle */
     draw(handle) {
         const miniature = this.#miniatures.get(handle);
-        const target = this.engine.targets.get(handle);
-        const context = miniature?.getContext('2d');
-        if (!miniature || !context || !target || !this.engine.isBound || !isReadable(target)) {
-            return;
+        if (miniature && this.engine.isBound) {
+            miniature.hidden = !this.engine.copy(handle, miniature);
         }
-        copyToCanvas(this.engine.gl, target, this.#scratch);
-        context.clearRect(0, 0, miniature.width, miniature.height);
-        context.drawImage(this.#scratch, 0, 0, miniature.width, miniature.height);
     }
 }

@@ -1,19 +1,19 @@
-// Making elements.
+// Elements, events, and work that is put off.
 
 /**
  * @template {keyof HTMLElementTagNameMap} Name
  * @param {Name} name
- * @param {Record<string, any>} [properties] of the element; what has a dash becomes an attribute
+ * @param {Record<string, any>} [properties] properties of the element, or else attributes
  * @param {...(Node | string)} children
  * @returns {HTMLElementTagNameMap[Name]}
  */
 export function make(name, properties = {}, ...children) {
     const element = document.createElement(name);
     for (const [key, value] of Object.entries(properties)) {
-        if (key.includes('-') || key === 'role' || key === 'for' || key === 'class') {
-            element.setAttribute(key, value);
-        } else {
+        if (key in element) {
             Object.assign(element, { [key]: value });
+        } else {
+            element.setAttribute(key, value);
         }
     }
     element.append(...children);
@@ -37,7 +37,7 @@ export function find(id, type) {
 }
 
 /**
- * Tells the visitor something of the page as a whole; an empty text ends it.
+ * Shows a message at the top of the page; an empty text removes it.
  *
  * @param {string} text
  */
@@ -46,32 +46,13 @@ export function notice(text) {
 }
 
 /**
- * Work that many events ask for, done at most once in a frame.
+ * Work that many events request, done at most once per pause, and always after the last request.
  *
  * @param {() => void} work
- * @returns {() => void} asks for it
+ * @param {number} [pause] milliseconds
+ * @returns {() => void} requests it
  */
-export function oncePerFrame(work) {
-    let isAsked = false;
-    return () => {
-        if (!isAsked) {
-            isAsked = true;
-            requestAnimationFrame(() => {
-                isAsked = false;
-                work();
-            });
-        }
-    };
-}
-
-/**
- * Work that many events ask for, done at most once in a while, and always once more after the last of them.
- *
- * @param {() => void} work
- * @param {number} pause milliseconds
- * @returns {() => void} asks for it
- */
-export function throttle(work, pause) {
+export function throttle(work, pause = 0) {
     let timer = 0;
     return () => {
         timer ||= window.setTimeout(() => {
@@ -79,4 +60,26 @@ export function throttle(work, pause) {
             work();
         }, pause);
     };
+}
+
+/** Emits events by name, each with at most one value. */
+export class Emitter {
+    /** @type {Record<string, ((value: any) => void)[]>} */
+    #listeners = {};
+
+    /**
+     * @param {string} type
+     * @param {(value: any) => void} listener
+     */
+    on(type, listener) {
+        (this.#listeners[type] ??= []).push(listener);
+    }
+
+    /**
+     * @param {string} type
+     * @param {any} [value]
+     */
+    emit(type, value) {
+        this.#listeners[type]?.forEach((listener) => listener(value));
+    }
 }

@@ -1,9 +1,10 @@
-// The library at work: its module, one surface on one canvas, and the losses of both. Knows nothing of
-// the page but the canvas's place.
+// The library at work: its module, one surface on one canvas, and the losses of both. Of the page it
+// knows only where the canvas goes.
 
+import { Emitter } from './dom.js';
 import createLibrary from './libzogles.mjs';
-import { createLineReader } from './log.js';
-import { findTarget, mostBuffers, windowHandle } from './targets.js';
+import { parseLine } from './log.js';
+import { findTarget, mostBuffers, readPixels, windowHandle } from './targets.js';
 
 /** @typedef {import('./libzogles.mjs').Rect} Rect */
 /** @typedef {import('./targets.js').Target} Target */
@@ -11,51 +12,45 @@ import { findTarget, mostBuffers, windowHandle } from './targets.js';
 
 export const windowSize = { width: 1280, height: 720 };
 
-// The library asks for a plain context. The page asks first, so that what the window holds stays there to
-// be looked at: elsewhere it is undefined once it was shown.
+// The library requests a plain context. The page requests one first, so that the window keeps its pixels
+// after they were shown; otherwise they are undefined then.
 function createCanvas() {
     const canvas = document.createElement('canvas');
     Object.assign(canvas, windowSize);
     canvas.setAttribute('role', 'img');
     canvas.setAttribute('aria-label', 'The window that the library draws on');
-    const isThere = canvas.getContext('webgl', {
+    const context = canvas.getContext('webgl', {
         alpha: true,
         antialias: false,
         depth: false,
         stencil: false,
         preserveDrawingBuffer: true,
     });
-    if (!isThere) {
-        throw new Error('This browser has no WebGL, which the library draws with.');
+    if (!context) {
+        throw new Error('the library draws with WebGL, and this browser has none.');
     }
     return canvas;
 }
 
-/** @param {Map<number, Target>} targets */
-function describeTargets(targets) {
-    return [...targets].map(([handle, { width, height }]) => `${handle} ${width} ${height}`).join();
-}
-
 /**
- * Tells of: "log" with a line; "targets" when a target came, went or changed its size; "drawn" when
- * pixels may have changed; "binding" when the surface was bound or let go of; "restored" when the browser
- * gives back a context that it took.
+ * Emits "log" with a line; "targets" when a target was created, destroyed or resized; "drawn" when pixels
+ * may have changed; "binding" when the surface was bound or unbound; "restored" when the browser gives
+ * back a context that it took.
  */
-export class Engine extends EventTarget {
-    /**
-     * @param {HTMLElement} place where the canvas goes
-     */
+export class Engine extends Emitter {
+    /** @param {HTMLElement} place where the canvas goes */
     static async start(place) {
-        /** @type {Engine | undefined} */
-        let engine;
+        /** @type {(line: string) => void} */
+        let log = () => {};
         const canvas = createCanvas();
-        const stderr = createLineReader((line) => engine?.tellLine(line));
-        engine = new Engine(place, canvas, await createLibrary({ canvas, stderr }));
+        const printErr = (/** @type {string} */ line) => log(line);
+        const engine = new Engine(place, canvas, await createLibrary({ canvas, printErr }));
+        log = (line) => engine.#log(line);
         return engine;
     }
 
     /**
-     * What the window shows, if it was presented from a buffer.
+     * The buffer that the window shows, if it was presented from one.
      *
      * @type {Presentation | null}
      */
@@ -70,7 +65,7 @@ export class Engine extends EventTarget {
 
     isBound = false;
 
-    /** Whether the browser took the context, and the surface is to be bound again when it gives it back. */
+    /** Whether the browser took the context: the surface is bound again when it comes back. */
     #isTaken = false;
 
     #isMuted = false;
@@ -86,7 +81,7 @@ export class Engine extends EventTarget {
         this.canvas = canvas;
         this.library = library;
         this.surface = new library.ZoGLDrawSurface();
-        this.#place();
+        this.#placeCanvas();
     }
 
     /** The library's own WebGL context. */
@@ -94,58 +89,86 @@ export class Engine extends EventTarget {
         return /** @type {WebGLRenderingContext} */ (this.canvas.getContext('webgl'));
     }
 
-    /** @returns {number} the code of the binding */
-    bind() {
-        if (!this.canvas.isConnected) {
+    /**
+     * @param {boolean} [hasWindow] whether a window or a null pointer is passed
+     * @returns {number} the code
+     */
+    bind(hasWindow = true) {
+        if (hasWindow && !this.canvas.isConnected) {
             this.canvas = createCanvas();
             this.library.canvas = this.canvas;
-            this.#place();
+            this.#placeCanvas();
         }
-        return this.#afterBinding(this.surface.ZoCreateGLWindowSurface(true));
+        const code = this.surface.ZoCreateGLWindowSurface(hasWindow);
+        if (hasWindow) {
+            this.isBound = code === 0; // a null pointer changes nothing
+        }
+        this.updateTargets();
+        this.emit('binding');
+        return code;
     }
 
-    /** @returns {number} the code of binding to no window at all */
-    bindNothing() {
-        return this.#afterBinding(this.surface.ZoCreateGLWindowSurface(false));
-    }
-
-    /** Lets go of the window, which stays where it is. */
-    letGo() {
+    unbind() {
         this.surface.ZoDestoryGLWindowSurface();
         this.#isTaken = false;
         this.presentation = null;
         this.isBound = false;
-        this.#tell('binding');
+        this.emit('binding');
     }
 
-    /** Lets go of the window, as its owner is about to destroy it, and destroys it. */
+    /** Unbinds the window first, as a client must before its window is destroyed. */
     destroyWindow() {
-        this.letGo();
+        this.unbind();
         this.canvas.remove();
     }
 
-    /** Looks at the targets anew, after an operation that may have changed them. */
+    /** Looks at the targets again, after an operation that may have changed them. */
     updateTargets() {
         if (!this.isBound || this.gl.isContextLost()) {
             return;
         }
-        const before = describeTargets(this.targets);
+        const before = JSON.stringify([...this.targets]);
         this.targets = this.withoutLog(() => this.#findTargets());
         if (this.presentation && !this.targets.has(this.presentation.handle)) {
             this.presentation = null;
         }
-        if (describeTargets(this.targets) !== before) {
-            this.#tell('targets');
+        if (JSON.stringify([...this.targets]) !== before) {
+            this.emit('targets');
         }
     }
 
-    tellDrawn() {
-        this.#tell('drawn');
+    /**
+     * The pixels of a target, or of a part of it; null where they cannot be read.
+     *
+     * @param {number} handle
+     * @param {Rect} [rect]
+     */
+    read(handle, rect) {
+        const target = this.targets.get(handle);
+        return this.isBound && target
+            ? readPixels(this.gl, target, rect ?? { x: 0, y: 0, ...target })
+            : null;
+    }
+
+    /**
+     * Copies a target to a 2D canvas, which gets the target's size.
+     *
+     * @param {number} handle
+     * @param {HTMLCanvasElement} canvas
+     * @returns {boolean} false where the pixels cannot be read
+     */
+    copy(handle, canvas) {
+        const picture = this.read(handle);
+        if (picture) {
+            Object.assign(canvas, { width: picture.width, height: picture.height });
+            canvas.getContext('2d')?.putImageData(picture, 0, 0);
+        }
+        return picture !== null;
     }
 
     /**
      * @template T
-     * @param {() => T} work what the page does for itself, and nobody wants to read about
+     * @param {() => T} work the page's own, which the visitor did not ask for
      */
     withoutLog(work) {
         const wasMuted = this.#isMuted;
@@ -154,6 +177,13 @@ export class Engine extends EventTarget {
             return work();
         } finally {
             this.#isMuted = wasMuted;
+        }
+    }
+
+    /** @param {string} line */
+    #log(line) {
+        if (!this.#isMuted) {
+            this.emit('log', parseLine(line));
         }
     }
 
@@ -171,43 +201,22 @@ export class Engine extends EventTarget {
         return targets;
     }
 
-    // A window that was destroyed may lose its context later on, which is nobody's affair any more.
-    #place() {
+    // A destroyed window may lose its context later, which concerns nothing any more.
+    #placeCanvas() {
         const { canvas } = this;
         canvas.addEventListener('webglcontextlost', (event) => {
-            event.preventDefault(); // or the browser never gives it back
+            event.preventDefault(); // otherwise the browser never restores it
             if (this.isBound && canvas === this.canvas) {
-                this.letGo();
+                this.unbind();
                 this.#isTaken = true;
             }
         });
         canvas.addEventListener('webglcontextrestored', () => {
             if (this.#isTaken && canvas === this.canvas) {
                 this.#isTaken = false;
-                this.#tell('restored');
+                this.emit('restored');
             }
         });
         this.place.prepend(canvas);
-    }
-
-    /** @param {number} code */
-    #afterBinding(code) {
-        const changedNothing = code === 101; // a null window
-        this.isBound = changedNothing ? this.isBound : code === 0;
-        this.updateTargets();
-        this.#tell('binding');
-        return code;
-    }
-
-    /** @param {import('./log.js').LogLine} line */
-    tellLine(line) {
-        if (!this.#isMuted) {
-            this.dispatchEvent(new CustomEvent('log', { detail: line }));
-        }
-    }
-
-    /** @param {string} type */
-    #tell(type) {
-        this.dispatchEvent(new Event(type));
     }
 }

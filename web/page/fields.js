@@ -1,5 +1,5 @@
-// The fields of a form: each an element, and a way to read and to write its value. What a record cannot
-// hold, such as a negative number, the browser's own validation keeps back.
+// The fields of a form: each an element, and a way to read and to write its value. The browser's own
+// validation rejects what a record cannot hold, such as a negative number.
 
 import { make } from './dom.js';
 import { formatHandle, noHandle, windowHandle } from './targets.js';
@@ -9,259 +9,242 @@ import { formatHandle, noHandle, windowHandle } from './targets.js';
 /**
  * @typedef {object} Widget
  * @property {HTMLElement} element
+ * @property {HTMLInputElement} [input] of a single number
  * @property {() => any} read
  * @property {(value: any) => void} write
- * @property {() => void} [refresh] lists anew what there is to choose from
+ * @property {() => void} [refresh] updates the choices
  */
 
 /**
- * What fields can be chosen from.
+ * The choices of fields.
  *
  * @typedef {object} Choices
- * @property {() => { handle: number, name: string }[]} targets the live ones
+ * @property {() => { handle: number, name: string, width: number, height: number }[]} targets the live ones
  * @property {() => string[]} fonts paths
  * @property {() => Map<string, ImageData>} pictures by name
  */
 
 const mostUnsigned = 0xffffffff;
-let lastId = 0;
 
 /**
- * @param {string} label
  * @param {number} value
- * @param {number} most
+ * @param {number} [max]
  */
-function makeNumber(label, value, most) {
-    const id = `field-${++lastId}`;
-    const input = make('input', {
-        ...{ id, type: 'number', min: '0', max: `${most}`, step: '1', required: true },
-        ...{ value: `${value}`, inputMode: 'numeric' },
-    });
-    const element = make('span', { class: 'number' }, make('label', { for: id }, label), input);
-    return { element, input };
-}
+const makeNumber = (value, max = mostUnsigned) =>
+    make('input', { type: 'number', min: 0, max, required: true, value, inputMode: 'numeric' });
 
 /**
- * @param {string} label
- * @param {Record<string, number>} value
- * @param {number} most
+ * @param {string} name
+ * @param {Field} field
+ * @param {HTMLElement} control
  */
-function makeNumbers(label, value, most) {
-    const numbers = Object.entries(value).map(([name, start]) => ({
-        name,
-        ...makeNumber(name, start, most),
+const makeRow = (name, { hint = '' }, control) =>
+    make('label', { class: 'row' }, make('code', {}, name), control, make('small', {}, hint));
+
+/**
+ * @param {string} name
+ * @param {Field} field
+ * @param {HTMLInputElement} input
+ * @param {'value' | 'valueAsNumber' | 'checked'} [property]
+ */
+const makeInput = (name, field, input, property = 'value') => ({
+    element: makeRow(name, field, input),
+    input,
+    read: () => input[property],
+    write: (/** @type {any} */ value) => Object.assign(input, { [property]: value }),
+});
+
+/**
+ * A group of numbers, with zeros for those of a rectangle that it has no fields for.
+ *
+ * @param {string} name
+ * @param {Field} field
+ * @param {number} [most]
+ */
+function makeNumbers(name, { value, hint = '' }, most) {
+    const inputs = Object.entries(value).map(([key, start]) => ({
+        key,
+        input: makeNumber(/** @type {number} */ (start), most),
     }));
     const element = make(
         'fieldset',
         {},
-        make('legend', {}, label),
-        make('div', { class: 'numbers four' }, ...numbers.map(({ element }) => element)),
+        make('legend', {}, make('code', {}, name), ' ', make('small', {}, hint)),
+        ...inputs.map(({ key, input }) => make('label', { class: 'number' }, key, input)),
     );
     return {
         element,
-        inputs: Object.fromEntries(numbers.map(({ name, input }) => [name, input])),
-        read: () =>
-            Object.fromEntries(numbers.map(({ name, input }) => [name, Number(input.value)])),
-        /** @param {Record<string, number>} values */
-        write: (values) => {
-            for (const { name, input } of numbers) {
-                input.value = `${values[name]}`;
-            }
+        read: () => Object.fromEntries(inputs.map(({ key, input }) => [key, Number(input.value)])),
+        write: (/** @type {Record<string, number>} */ values) =>
+            inputs.forEach(({ key, input }) => (input.value = `${values[key]}`)),
+    };
+}
+
+/**
+ * @param {string} name
+ * @param {Field} field
+ * @param {(chosen: string) => [string | number, string][]} options values and labels
+ * @param {(value: string) => any} parse
+ */
+function makeSelect(name, field, options, parse) {
+    const select = make('select');
+    const write = (/** @type {any} */ chosen) => {
+        select.replaceChildren(
+            ...options(`${chosen}`).map(([value, label]) => make('option', { value }, label)),
+        );
+        select.value = `${chosen}`;
+        select.selectedIndex = Math.max(0, select.selectedIndex);
+    };
+    write(field.value);
+    return {
+        element: makeRow(name, field, select),
+        read: () => parse(select.value),
+        write,
+        refresh: () => write(select.value),
+    };
+}
+
+/**
+ * @param {string} name
+ * @param {Field} field
+ */
+function makeColor(name, field) {
+    const numbers = makeNumbers(name, field, 255);
+    const picker = make('input', { type: 'color', 'aria-label': `${name}, picked` });
+    const show = () => {
+        if (numbers.element.matches(':invalid')) {
+            return; // the picker has no such colour
+        }
+        const { r, g, b } = numbers.read();
+        // As bright as the library draws it.
+        const digits = [r, g, b].map((channel) => (channel === 1 ? 255 : channel).toString(16));
+        picker.value = `#${digits.map((digit) => digit.padStart(2, '0')).join('')}`;
+    };
+    numbers.element.addEventListener('input', ({ target }) => {
+        if (target === picker) {
+            const [r, g, b] = [1, 3, 5].map((at) => parseInt(picker.value.slice(at, at + 2), 16));
+            numbers.write({ ...numbers.read(), r, g, b });
+        } else {
+            show();
+        }
+    });
+    numbers.element.append(picker);
+    show();
+    return {
+        ...numbers,
+        write: (/** @type {Record<string, number>} */ color) => {
+            numbers.write(color);
+            show();
         },
     };
 }
 
 /**
+ * @param {string} name
  * @param {Field} field
- * @param {HTMLElement & { id: string }} control
  */
-function makeRow({ label, hint }, control) {
-    control.id = `field-${++lastId}`;
-    const row = make('div', { class: 'row' }, make('label', { for: control.id }, label), control);
-    if (hint) {
-        const id = `${control.id}-hint`;
-        control.setAttribute('aria-describedby', id);
-        row.append(make('small', { id }, hint));
-    }
-    return row;
-}
-
-/**
- * @param {Field} field
- * @param {(chosen: string) => [string, string][]} options values and labels
- * @param {(value: string) => any} parse
- */
-function makeSelect(field, options, parse) {
-    const select = make('select');
-    /** @param {string} value */
-    const fill = (value) => {
-        select.replaceChildren(
-            ...options(value).map(([value, label]) => make('option', { value }, label)),
-        );
-        select.value = value;
-        if (select.selectedIndex < 0) {
-            select.selectedIndex = 0;
-        }
-    };
-    fill(`${field.value}`);
+function makeFlags(name, { value }) {
+    const inputs = ['TEXT', 'BLIT', 'BITMAP', 'RECT', 'FRAME', 'FBO'].map((component, i) => ({
+        input: make('input', { type: 'checkbox', checked: Boolean(value & (1 << i)) }),
+        label: `ZO_COMPONENT_${component}`,
+    }));
+    const boxes = inputs.map(({ input, label }) =>
+        make('label', {}, input, make('code', {}, label)),
+    );
     return {
-        element: makeRow(field, select),
-        read: () => parse(select.value),
-        write: (/** @type {any} */ value) => fill(`${value}`),
-        refresh: () => fill(select.value),
+        element: make(
+            'fieldset',
+            { class: 'flags' },
+            make('legend', {}, make('code', {}, name)),
+            ...boxes,
+        ),
+        read: () => inputs.reduce((sum, { input }, i) => sum | (Number(input.checked) << i), 0),
+        write: (/** @type {number} */ flags) =>
+            inputs.forEach(({ input }, i) => (input.checked = Boolean(flags & (1 << i)))),
     };
 }
 
-/** @type {Record<Field['kind'], (field: Field, choices: Choices) => Widget>} */
-const makers = {
-    number: (field) => {
-        const { input } = makeNumber(field.label, field.value, field.most ?? mostUnsigned);
-        return {
-            element: makeRow(field, input),
-            read: () => Number(input.value),
-            write: (value) => {
-                input.value = `${value}`;
-            },
-        };
-    },
-
-    rect: ({ label, value }) => makeNumbers(label, value, mostUnsigned),
-
-    pen: ({ label, value }) =>
-        makeNumbers(`${label}: where the text starts, on its baseline`, value, mostUnsigned),
-
-    color: ({ label, value, hint }) => {
-        const numbers = makeNumbers(label, value, 255);
-        const picker = make('input', { type: 'color', 'aria-label': `${label}, picked` });
-        const show = () => {
-            if (Object.values(numbers.inputs).some(({ validity }) => !validity.valid)) {
-                return; // the picker knows no such colour
-            }
-            const { r, g, b } = numbers.read();
-            // As bright as the library takes it: 1 is full intensity.
-            const digits = [r, g, b].map((channel) => (channel === 1 ? 255 : channel).toString(16));
-            picker.value = `#${digits.map((digit) => digit.padStart(2, '0')).join('')}`;
-        };
-        picker.addEventListener('input', () => {
-            const [r, g, b] = [1, 3, 5].map((at) => parseInt(picker.value.slice(at, at + 2), 16));
-            numbers.write({ ...numbers.read(), r, g, b });
-        });
-        numbers.element.addEventListener('input', (event) => {
-            if (event.target !== picker) {
-                show();
-            }
-        });
-        numbers.element.append(
-            make('div', { class: 'picker' }, picker, make('small', {}, hint ?? '')),
-        );
-        show();
-        return {
-            ...numbers,
-            write: (color) => {
-                numbers.write(color);
-                show();
-            },
-        };
-    },
-
-    text: (field) => {
-        const input = make('input', { type: 'text', value: field.value });
-        return {
-            element: makeRow(field, input),
-            read: () => input.value,
-            write: (value) => {
-                input.value = value;
-            },
-        };
-    },
-
-    check: (field) => {
-        const input = make('input', { type: 'checkbox', checked: field.value });
-        const element = makeRow(field, input);
-        element.classList.add('check');
-        return {
-            element,
-            read: () => input.checked,
-            write: (value) => {
-                input.checked = value;
-            },
-        };
-    },
-
-    flags: ({ label, value }) => {
-        const bits = ['TEXT', 'BLIT', 'BITMAP', 'RECT', 'FRAME', 'FBO'].map((name, i) => {
-            const input = make('input', { type: 'checkbox', checked: Boolean(value & (1 << i)) });
-            return { input, element: make('label', {}, input, `ZO_COMPONENT_${name}`) };
-        });
-        const boxes = make('div', { class: 'flags' }, ...bits.map(({ element }) => element));
-        return {
-            element: make('fieldset', {}, make('legend', {}, label), boxes),
-            read: () => bits.reduce((sum, { input }, i) => sum | (input.checked ? 1 << i : 0), 0),
-            write: (flags) =>
-                bits.forEach(({ input }, i) => (input.checked = Boolean(flags & (1 << i)))),
-        };
-    },
-
-    // Handles that name nothing are there to be tried, too; one whose buffer is gone stays chosen.
-    handle: (field, choices) =>
-        makeSelect(
-            field,
-            (chosen) => {
-                const unused = windowHandle | 0x10;
-                const live = choices.targets();
-                /** @type {[number, string][]} */
-                const options = live.map(({ handle, name }) => [
-                    handle,
-                    `${formatHandle(handle)} ${name}`,
-                ]);
-                options.push([unused, `${formatHandle(unused)} names no buffer`]);
-                options.push([noHandle, 'ZO_NO_HANDLE']);
-                if (!options.some(([handle]) => `${handle}` === chosen)) {
-                    options.push([Number(chosen), `${formatHandle(Number(chosen))} no buffer now`]);
-                }
-                return options.map(([handle, label]) => [`${handle}`, label]);
-            },
-            Number,
-        ),
-
-    font: (field, choices) =>
-        makeSelect(
-            field,
-            () => [
-                ...choices.fonts().map((path) => /** @type {[string, string]} */ ([path, path])),
-                ['/fonts/missing.ttf', '/fonts/missing.ttf (not there)'],
-            ],
-            String,
-        ),
-
-    picture: (field, choices) =>
-        makeSelect(
-            field,
-            () => [
-                ...[...choices.pictures()].map(
-                    ([name, { width, height }]) =>
-                        /** @type {[string, string]} */ ([name, `${name}, ${width} by ${height}`]),
-                ),
-                ['', 'nullptr'],
-            ],
-            (name) => new Uint8Array(choices.pictures().get(name)?.data.buffer ?? []),
-        ),
-
-    window: (field) =>
-        makeSelect(
-            { ...field, value: '1' },
-            () => [
-                ['1', 'the canvas of this page'],
-                ['', 'nullptr'],
-            ],
-            Boolean,
-        ),
-};
+/**
+ * The live targets, and handles without a buffer to try; a chosen handle stays when its buffer goes.
+ *
+ * @param {ReturnType<Choices['targets']>} targets
+ * @param {string} chosen
+ * @returns {[number, string][]}
+ */
+function listHandles(targets, chosen) {
+    /** @type {Map<number, string>} */
+    const labels = new Map();
+    for (const { handle, name } of targets) {
+        labels.set(handle, `${formatHandle(handle)} ${name}`);
+    }
+    for (const handle of [windowHandle | 0x10, Number(chosen)]) {
+        labels.set(handle, labels.get(handle) ?? `${formatHandle(handle)} no buffer`);
+    }
+    return [...labels.set(noHandle, 'ZO_NO_HANDLE')];
+}
 
 /**
+ * @param {[string, ImageData]} picture
+ * @returns {[string, string]}
+ */
+const listPicture = ([name, { width, height }]) => [name, `${name}, ${width} × ${height}`];
+
+/**
+ * @param {string} name
  * @param {Field} field
  * @param {Choices} choices
+ * @returns {Widget}
  */
-export function makeField(field, choices) {
-    return makers[field.kind](field, choices);
+export function makeField(name, field, choices) {
+    switch (field.kind) {
+        case 'number':
+            return makeInput(name, field, makeNumber(field.value), 'valueAsNumber');
+        case 'format':
+            return makeInput(name, field, makeNumber(field.value, 0x7fffffff), 'valueAsNumber');
+        case 'text':
+            return makeInput(name, field, make('input', { value: field.value }));
+        case 'check':
+            return makeInput(name, field, make('input', { type: 'checkbox' }), 'checked');
+        case 'rect':
+            return makeNumbers(name, field);
+        case 'pen': {
+            const pen = makeNumbers(name, field);
+            return { ...pen, read: () => ({ ...pen.read(), width: 0, height: 0 }) };
+        }
+        case 'color':
+            return makeColor(name, field);
+        case 'flags':
+            return makeFlags(name, field);
+        case 'handle':
+            return makeSelect(
+                name,
+                field,
+                (chosen) => listHandles(choices.targets(), chosen),
+                Number,
+            );
+        case 'font':
+            return makeSelect(
+                name,
+                field,
+                () => [...choices.fonts(), '/fonts/missing.ttf'].map((path) => [path, path]),
+                String,
+            );
+        case 'picture':
+            return makeSelect(
+                name,
+                field,
+                () => [...[...choices.pictures()].map(listPicture), ['', 'nullptr']],
+                (key) => new Uint8Array(choices.pictures().get(key)?.data.buffer ?? []),
+            );
+        case 'window':
+            return makeSelect(
+                name,
+                field,
+                () => [
+                    [1, 'the canvas of this page'],
+                    ['', 'nullptr'],
+                ],
+                Boolean,
+            );
+    }
 }

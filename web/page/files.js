@@ -1,12 +1,10 @@
-// Fonts and pictures that a visitor drops on the page. They stay in it.
+// Fonts and pictures that a visitor drops on the page. They stay in the page.
 
-import { find, make } from './dom.js';
+import { Emitter, find, make } from './dom.js';
 import { results } from './library.js';
 
-/** @typedef {import('./engine.js').Engine} Engine */
-
 export const ownFont = '/fonts/DejaVuSans.ttf';
-const mostNamed = 60;
+const mostNamed = 60; // characters
 
 /** @param {ImageBitmapSource} source */
 async function decode(source) {
@@ -15,8 +13,7 @@ async function decode(source) {
         colorSpaceConversion: 'none',
     });
     const { width, height } = bitmap;
-    const canvas = make('canvas', { width, height });
-    const context = canvas.getContext('2d', { willReadFrequently: true });
+    const context = make('canvas', { width, height }).getContext('2d');
     if (!context) {
         throw new Error('this browser has no 2D canvas');
     }
@@ -25,16 +22,21 @@ async function decode(source) {
 }
 
 /**
- * The pixels of a PNG file beside the page.
+ * Fetches one of the page's own files.
  *
  * @param {string} name
  */
-export async function fetchPicture(name) {
-    const file = await fetch(`${name}.png`);
-    if (!file.ok) {
-        throw new Error(`the page’s picture ${name} is not there`);
+async function fetchOwn(name) {
+    const response = await fetch(name);
+    if (!response.ok) {
+        throw new Error(`its file ${name} is missing.`);
     }
-    return decode(await file.blob());
+    return response.blob();
+}
+
+/** @param {string} name of a PNG file, without the ending */
+export async function fetchPicture(name) {
+    return decode(await fetchOwn(`${name}.png`));
 }
 
 /** @param {number[]} codes */
@@ -47,65 +49,62 @@ function nameCharacters(codes) {
     return shown.join(', ') + (more > 0 ? ` and ${more} more` : '');
 }
 
-/** Tells of "font" with a path that was loaded, and of "picture" with a name. */
-export class Files extends EventTarget {
+/** Emits "font" with the path of a font that was loaded, and "picture" with a name. */
+export class Files extends Emitter {
     /** @type {string[]} */
     fonts = [];
 
-    /** The font that was loaded last. */
+    /** The last font that was loaded. */
     #last = { path: ownFont, size: 40 };
 
     /** @type {Map<string, ImageData>} */
     pictures = new Map();
 
-    /** @param {Engine} engine */
+    /** @param {import('./engine.js').Engine} engine */
     constructor(engine) {
         super();
         this.engine = engine;
         this.report = find('file-report', HTMLElement);
         const input = find('file-input', HTMLInputElement);
         input.addEventListener('change', () => {
-            this.take([...(input.files ?? [])]);
+            this.#take([...(input.files ?? [])]);
             input.value = '';
         });
-        const zone = document.documentElement;
+        const { classList } = document.documentElement;
         document.addEventListener('dragover', (event) => {
             event.preventDefault();
-            zone.classList.add('dropping');
+            classList.add('dropping');
         });
-        document.addEventListener('dragleave', () => zone.classList.remove('dropping'));
+        document.addEventListener('dragleave', () => classList.remove('dropping'));
         document.addEventListener('drop', (event) => {
             event.preventDefault();
-            zone.classList.remove('dropping');
-            this.take([...(event.dataTransfer?.files ?? [])]);
+            classList.remove('dropping');
+            this.#take([...(event.dataTransfer?.files ?? [])]);
         });
     }
 
-    /** What the page brings along. */
+    /** Loads the page's own font and picture. */
     async loadOwn() {
-        const [font, poster] = await Promise.all([fetch('DejaVuSans.ttf'), fetchPicture('poster')]);
-        if (!font.ok) {
-            throw new Error('the page’s own font is not there');
-        }
+        const font = await fetchOwn('DejaVuSans.ttf');
         this.#store(ownFont, new Uint8Array(await font.arrayBuffer()));
-        this.pictures.set('poster.png', poster);
+        this.pictures.set('poster.png', await fetchPicture('poster'));
     }
 
     /** @param {File[]} files */
-    async take(files) {
+    async #take(files) {
         this.report.replaceChildren();
         for (const file of files) {
             try {
                 const isPicture = file.type.startsWith('image/');
                 await (isPicture ? this.#takePicture(file) : this.#takeFont(file));
             } catch {
-                this.#tell([`${file.name} cannot be read.`]);
+                this.#say(`${file.name} cannot be read.`);
             }
         }
     }
 
     /**
-     * Each file gets a path of its own: one that is loaded stays open, and is not to be written over.
+     * Each file gets another path: a loaded font stays open and must not be overwritten.
      *
      * @param {string} path
      * @param {Uint8Array} data
@@ -120,16 +119,15 @@ export class Files extends EventTarget {
     /** @param {File} file */
     async #takePicture(file) {
         const picture = await decode(file);
-        const most = this.engine.gl.getParameter(this.engine.gl.MAX_TEXTURE_SIZE) ?? 0;
+        const { gl } = this.engine;
+        const most = gl.getParameter(gl.MAX_TEXTURE_SIZE) ?? 0;
         if (picture.width > most || picture.height > most) {
-            this.#tell([
-                `${file.name} is larger than a texture can be here, ${most} pixels a side.`,
-            ]);
+            this.#say(`${file.name} is too large: textures have up to ${most} pixels a side here.`);
             return;
         }
         this.pictures.set(file.name, picture);
-        this.#tell([`${file.name} is a bitmap now: ZoDisplayBitmap shows it on the window.`]);
-        this.dispatchEvent(new CustomEvent('picture', { detail: file.name }));
+        this.#say(`${file.name} is a bitmap now: ZoDisplayBitmap shows it on the window.`);
+        this.emit('picture', file.name);
     }
 
     /** @param {File} file */
@@ -143,23 +141,23 @@ export class Files extends EventTarget {
         this.#store(path, new Uint8Array(await file.arrayBuffer()));
         const code = this.engine.surface.ZoLoadFont(path, size);
         const { name, meaning, advice } = results[code];
-        this.#tell([`${file.name}: ${code} ${name}, ${meaning}.`]);
+        this.#say(`${file.name}: ${code} ${name}, ${meaning}.`);
         if (code === 0) {
             this.#last = { path, size };
-            this.#tell(this.#describe(path, size));
-            this.dispatchEvent(new CustomEvent('font', { detail: path }));
+            this.#describe(path, size);
+            this.emit('font', path);
         } else {
-            this.#tell([advice, this.#loadLast()]);
+            this.#say(advice, this.#loadLast());
         }
     }
 
-    /** A font that cannot be loaded takes the one before along. */
+    /** A load that fails also discards the font before. */
     #loadLast() {
         const { path, size } = this.#last;
         const code = this.engine.withoutLog(() => this.engine.surface.ZoLoadFont(path, size));
         return code === 0
-            ? 'The font before it is gone then; the page has loaded that one again.'
-            : `The font before it is gone then, and cannot be loaded now either: ${code}.`;
+            ? 'A failed load discards the font before it; the page has loaded that font again.'
+            : `A failed load discards the font before it, and loading that again gave ${code}.`;
     }
 
     /**
@@ -168,19 +166,20 @@ export class Files extends EventTarget {
      */
     #describe(path, size) {
         const { engine } = this;
-        const { family, style, mapped, blank, atlasWidth, atlasHeight, leftOut } =
-            engine.withoutLog(() => engine.library.DescribeFont(path, size));
-        return [
-            `${family} ${style}, ${mapped} characters, ${blank} of them without a mark.`,
-            `Its atlas at ${size} pixels is ${atlasWidth} by ${atlasHeight} texels.`,
+        const { name, mapped, blank, atlasWidth, atlasHeight, leftOut } = engine.withoutLog(() =>
+            engine.library.DescribeFont(path, size),
+        );
+        this.#say(
+            `${name}, ${mapped} characters, ${blank} of them blank.`,
+            `Its atlas at ${size} pixels is ${atlasWidth} × ${atlasHeight} texels.`,
             leftOut.length === 0
-                ? 'No character was left out.'
-                : `${leftOut.length} characters were left out: ${nameCharacters(leftOut)}.`,
-        ];
+                ? 'No character is missing from the atlas.'
+                : `${leftOut.length} characters did not fit: ${nameCharacters(leftOut)}.`,
+        );
     }
 
     /** @param {string[]} lines */
-    #tell(lines) {
+    #say(...lines) {
         this.report.append(...lines.map((line) => make('p', {}, line)));
     }
 }

@@ -1,104 +1,101 @@
-// The form of one operation: its fields, the C++ that does the same, and what came of it.
+// The form of one operation: its fields, its result, and the C++ that does the same.
 
-import { make } from './dom.js';
+import { writeCpp } from './cpp.js';
+import { Emitter, make } from './dom.js';
 import { makeField } from './fields.js';
 import { operationNotes, results } from './library.js';
-import { makeLine } from './log-panel.js';
-
-/** @typedef {import('./operations.js').Operation} Operation */
-/** @typedef {import('./operations.js').Outcome} Outcome */
+import { makeLine } from './log.js';
+import { operations } from './operations.js';
 
 const mostLines = 6;
 
-/** @param {Outcome} outcome */
-function describe({ code, note }) {
-    const told = note ? [make('p', {}, note)] : [];
-    if (code === undefined) {
-        return note ? told : [make('p', {}, 'It returns nothing.')];
-    }
-    const { name, meaning, advice } = results[code];
-    const sentence = `${meaning}.${code === 0 ? '' : ` ${advice}`}`;
-    return [make('p', {}, make('strong', {}, `${code} ${name}`), ` ${sentence}`), ...told];
-}
-
-export class Form extends EventTarget {
-    /** @type {Record<string, import('./fields.js').Widget>} */
-    #widgets = {};
-
+/** Emits "run", and "change" when a value changes. */
+export class Form extends Emitter {
     #code = make('code');
-    #copy = make('button', { type: 'button', class: 'quiet' }, 'Copy the C++');
+    #copy = make('button', { type: 'button' }, 'Copy the C++');
     #result = make('div', { class: 'result', role: 'status' });
 
     /**
-     * Tells of "run" with the values, and of "change".
-     *
-     * @param {Operation} operation
+     * @param {string} name of the operation
      * @param {import('./fields.js').Choices} choices
      */
-    constructor(operation, choices) {
+    constructor(name, choices) {
         super();
-        this.operation = operation;
-        const fields = Object.entries(operation.fields).map(([name, field]) => {
-            this.#widgets[name] = makeField(field, choices);
-            this.#widgets[name].element.dataset.field = name;
-            return this.#widgets[name].element;
+        this.name = name;
+        this.operation = operations[name];
+        this.choices = choices;
+        this.widgets = Object.entries(this.operation.fields).map(([key, field]) => {
+            const widget = makeField(key, field, choices);
+            widget.element.dataset.field = key;
+            return { key, ...widget };
         });
-        this.#copy.addEventListener('click', () => this.#copyCode());
         this.element = make(
             'form',
-            { class: 'operation' },
-            make('p', { class: 'note' }, operationNotes[operation.name]),
-            ...fields,
-            make('pre', { tabIndex: 0, 'aria-label': 'The same in C++' }, this.#code),
+            {},
+            make('p', { class: 'note' }, operationNotes[name]),
+            ...this.widgets.map(({ element }) => element),
             make(
                 'div',
-                { class: 'actions' },
-                make('button', { class: 'main' }, `Run ${operation.name}`),
+                { class: 'outcome' },
+                make('button', { class: 'main' }, `Run ${name}`),
+                this.#result,
+            ),
+            make(
+                'div',
+                { class: 'bar' },
+                make('p', { class: 'note' }, 'The same in C++'),
                 this.#copy,
             ),
-            this.#result,
+            make('pre', { tabIndex: 0, 'aria-label': 'The same in C++' }, this.#code),
         );
+        this.#copy.addEventListener('click', () => this.#copyCode());
         this.element.addEventListener('input', (event) => this.#update(event));
         this.element.addEventListener('submit', (event) => {
             event.preventDefault();
-            this.dispatchEvent(new Event('run'));
+            this.emit('run');
         });
         this.#update();
     }
 
     get values() {
-        const entries = Object.entries(this.#widgets).map(([name, widget]) => [
-            name,
-            widget.read(),
-        ]);
-        return Object.fromEntries(entries);
+        return Object.fromEntries(this.widgets.map(({ key, read }) => [key, read()]));
     }
 
-    /**
-     * @param {string} name of a field
-     * @param {any} value
-     */
-    write(name, value) {
-        this.#widgets[name].write(value);
+    /** @param {Record<string, any>} values by the name of the field */
+    write(values) {
+        for (const { key, write } of this.widgets) {
+            if (key in values) {
+                write(values[key]);
+            }
+        }
         this.#update();
     }
 
-    /** Lists anew what there is to choose from. */
+    /** Updates the choices. */
     refresh() {
-        Object.values(this.#widgets).forEach((widget) => widget.refresh?.());
+        this.widgets.forEach(({ refresh }) => refresh?.());
         this.#update();
     }
 
     /**
-     * @param {Outcome} outcome
-     * @param {import('./log.js').LogLine[]} lines what it logged
+     * @param {import('./operations.js').Outcome} outcome
+     * @param {import('./log.js').LogLine[]} lines that it logged
      */
-    show(outcome, lines) {
-        const logged = lines.slice(0, mostLines).map((line) => makeLine(line));
-        const more =
-            lines.length > mostLines ? [`… and more in the log: ${lines.length - mostLines}`] : [];
-        this.#result.classList.toggle('bad', (outcome.code ?? 0) !== 0);
-        this.#result.replaceChildren(...describe(outcome), ...logged, ...more);
+    show({ code, note }, lines) {
+        this.#result.classList.toggle('bad', Boolean(code));
+        this.#result.replaceChildren();
+        if (code !== undefined) {
+            const { name, meaning, advice } = results[code];
+            const sentence = code === 0 ? ` ${meaning}.` : ` ${meaning}. ${advice}`;
+            this.#result.append(make('p', {}, make('strong', {}, `${code} ${name}`), sentence));
+        }
+        if (note || code === undefined) {
+            this.#result.append(make('p', {}, note ?? 'It returns nothing.'));
+        }
+        this.#result.append(...lines.slice(0, mostLines).map((line) => makeLine(line)));
+        if (lines.length > mostLines) {
+            this.#result.append(`and ${lines.length - mostLines} more lines in the log`);
+        }
     }
 
     async #copyCode() {
@@ -107,53 +104,44 @@ export class Form extends EventTarget {
             this.#copy.textContent = 'Copied';
             setTimeout(() => (this.#copy.textContent = 'Copy the C++'), 1500);
         } catch {
-            getSelection()?.selectAllChildren(this.#code); // without TLS or leave, there is no clipboard
+            getSelection()?.selectAllChildren(this.#code); // there is no clipboard without TLS or permission
         }
     }
 
-    /** @param {Event} [event] */
+    /** @param {Event} [event] of a visitor's input */
     #update(event) {
-        const source =
-            event?.target instanceof Element ? event.target.closest('[data-field]') : null;
-        this.#followText(source);
+        this.#limitLength(event?.target);
         this.#limitPixels();
-        this.#code.textContent = this.operation.cpp(this.values).join('\n');
+        this.#code.textContent = writeCpp(this.operation, this.values, this.choices);
         this.#copy.disabled = this.element.matches(':invalid');
         if (event) {
             this.#result.replaceChildren(); // it belongs to other values
         }
-        this.dispatchEvent(new Event('change'));
+        this.emit('change');
     }
 
-    // The record's length may not promise more units than the text has.
-    /** @param {Element | null} source */
-    #followText(source) {
-        const { text, length } = this.#widgets;
-        if (!text || !length) {
-            return;
-        }
-        const units = text.read().length;
-        const input = length.element.querySelector('input');
-        if (input) {
-            input.max = `${units}`;
-        }
-        if (source === text.element) {
-            length.write(units);
+    /** @param {string} name */
+    #find(name) {
+        return this.widgets.find(({ key }) => key === name);
+    }
+
+    // The length must not exceed the text. It follows the text that a visitor types.
+    /** @param {EventTarget | null} [source] */
+    #limitLength(source) {
+        const [text, length] = [this.#find('text')?.input, this.#find('length')?.input];
+        if (text && length) {
+            length.max = `${text.value.length}`;
+            length.value = source === text ? length.max : length.value;
         }
     }
 
-    // Nor may a bitmap promise more pixels than there are: the library would read past them.
+    // A bitmap must not have more pixels than the picture: the library would read past them.
     #limitPixels() {
-        const { data, width, height } = this.#widgets;
-        if (!data) {
-            return;
+        const { data, width, height } = this.values;
+        if (data) {
+            const isTooLarge = data.length > 0 && width * height * 4 > data.length;
+            const message = isTooLarge ? 'The picture has fewer pixels than that.' : '';
+            this.#find('width')?.input?.setCustomValidity(message);
         }
-        const pixels = data.read().length / 4;
-        const isTooMany = pixels > 0 && width.read() * height.read() > pixels;
-        width.element
-            .querySelector('input')
-            ?.setCustomValidity(
-                isTooMany ? 'The picture has fewer pixels: the library would read past them.' : '',
-            );
     }
 }

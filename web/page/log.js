@@ -1,35 +1,80 @@
-// The platform's log, as the page receives it: a line at a time, from the module's standard error.
+// The platform's log: lines as they arrive, filtered by the library's own filter.
+
+import { find, make, throttle } from './dom.js';
 
 /** @typedef {{ priority: string, tag: string, text: string }} LogLine */
 
-const format = /^([VDIWEF?])\/([^:]*): ?(.*)$/;
+const format = /^([VDIWEF])\/([^:]*): ?(.*)$/;
+const lowestPriority = 2; // the platform's number of V
+const mostEntries = 500;
 
-/** The platform's numbers of the letters. */
-const priorities = /** @type {Record<string, number>} */ ({ V: 2, D: 3, I: 4, W: 5, E: 6, F: 7 });
-
-/** @param {string} letter */
-export function priorityOf(letter) {
-    return priorities[letter] ?? priorities.F;
+/** @param {string} line */
+export function parseLine(line) {
+    const [, priority, tag, text] = format.exec(line) ?? ['', 'E', 'page', line];
+    return { priority, tag, text };
 }
 
 /**
- * Gathers bytes to lines.
- *
- * @param {(line: LogLine) => void} tell
- * @returns {(byte: number) => void}
+ * @param {LogLine} line
+ * @param {number} count how often it came in a row
  */
-export function createLineReader(tell) {
-    const decoder = new TextDecoder();
-    /** @type {number[]} */
-    let bytes = [];
-    return (byte) => {
-        if (byte !== 10) {
-            bytes.push(byte);
-            return;
+export function makeLine({ priority, tag, text }, count = 1) {
+    return make(
+        'div',
+        { class: `line priority-${priority}` },
+        make('b', {}, priority),
+        make('span', { class: 'tag' }, tag),
+        make('span', {}, text),
+        make('span', {}, count > 1 ? `×${count}` : ''),
+    );
+}
+
+export class LogPanel {
+    /** @type {(LogLine & { count: number })[]} */
+    #entries = [];
+
+    #showLater = throttle(() => this.#show());
+
+    /** @param {import('./engine.js').Engine} engine */
+    constructor(engine) {
+        this.library = engine.library;
+        this.list = find('log-lines', HTMLElement);
+        this.filter = find('log-filter', HTMLInputElement);
+        this.hidden = find('log-hidden', HTMLElement);
+        this.filter.addEventListener('input', this.#showLater);
+        find('log-clear', HTMLButtonElement).addEventListener('click', () => {
+            this.#entries = [];
+            this.#show();
+        });
+        engine.on('log', (line) => this.#add(line));
+    }
+
+    /** @param {LogLine} line */
+    #add(line) {
+        const last = this.#entries[this.#entries.length - 1];
+        const isRepeated =
+            last?.text === line.text && last.tag === line.tag && last.priority === line.priority;
+        if (isRepeated) {
+            ++last.count;
+        } else {
+            this.#entries.push({ ...line, count: 1 });
+            this.#entries.splice(0, this.#entries.length - mostEntries);
         }
-        const line = decoder.decode(new Uint8Array(bytes));
-        bytes = [];
-        const [, priority, tag, text] = format.exec(line) ?? ['', 'E', 'page', line];
-        tell({ priority, tag, text });
-    };
+        this.#showLater();
+    }
+
+    #show() {
+        const shown = this.#entries.filter(({ priority, tag }) => {
+            const number = lowestPriority + 'VDIWEF'.indexOf(priority);
+            return this.library.Shows(this.filter.value, number, tag);
+        });
+        const { scrollTop, scrollHeight, clientHeight } = this.list;
+        const isAtEnd = scrollTop + clientHeight > scrollHeight - 8;
+        this.list.replaceChildren(...shown.map((entry) => makeLine(entry, entry.count)));
+        if (isAtEnd) {
+            this.list.scrollTop = this.list.scrollHeight; // a reader further up is not disturbed
+        }
+        const hidden = this.#entries.length - shown.length;
+        this.hidden.textContent = hidden === 0 ? '' : `${hidden} filtered out`;
+    }
 }

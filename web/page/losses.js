@@ -1,94 +1,54 @@
-// The loss of the window, and of the browser's whole context, and what comes back after each.
+// The loss of the window and of the whole WebGL context, and what comes back after each.
 
-import { find, make } from './dom.js';
-import { isReadable, readPixels, windowHandle } from './targets.js';
+import { Emitter, find, make } from './dom.js';
+import { windowHandle } from './targets.js';
 
-/** @typedef {import('./engine.js').Engine} Engine */
-
-/** @param {Engine} engine */
-function holdsOnlyZeros(engine) {
-    const buffers = [...engine.targets].filter(
-        ([handle, target]) => handle !== windowHandle && isReadable(target),
-    );
-    return buffers.every(([, target]) => {
-        const pixels = readPixels(engine.gl, target, {
-            x: 0,
-            y: 0,
-            width: target.width,
-            height: target.height,
-        });
-        return pixels.every((channel) => channel === 0);
-    });
-}
-
-/** @param {Engine} engine */
-function measureCode(engine) {
-    const color = { r: 0, g: 0, b: 0, a: 0 };
-    const fields = { text: 'a', length: 1, color, fontSize: 40, bold: false, italic: false };
-    return engine.withoutLog(() => engine.surface.ZoGetTextSize(fields)).code;
+/** @param {import('./engine.js').Engine} engine */
+function listBuffers(engine) {
+    return [...engine.targets.keys()].filter((handle) => handle !== windowHandle);
 }
 
 /**
- * What is back after a binding, found out by asking and by reading pixels.
+ * What a binding restored, found by calls and by reading pixels.
  *
- * @param {Engine} engine
+ * @param {import('./engine.js').Engine} engine
  * @param {number[]} before the handles before the loss
  */
 function findFacts(engine, before) {
-    const back = before.filter((handle) => engine.targets.has(handle));
-    const code = measureCode(engine);
-    const pixels = holdsOnlyZeros(engine)
-        ? 'Their pixels were not: every buffer was transparent black.'
-        : 'Their pixels were there still.';
+    const back = listBuffers(engine);
+    const isBlank = back.every((handle) =>
+        engine.read(handle)?.data.every((channel) => channel === 0),
+    );
+    const { code } = engine.withoutLog(() => engine.surface.ZoGetTextSize('a', 1));
     return [
-        `${back.length} of ${before.length} buffers are back under their handles.`,
-        ...(back.length > 0 ? [pixels] : []),
-        code === 0
-            ? 'The font was there still.'
-            : `The font was not: measuring a text gave ${code}, as this system has no default font.`,
-        'Then the page loads its font, and paints the scene again if there is room for it.',
+        `${back.length} of ${before.length} buffers are back, with the same handles.`,
+        isBlank ? 'Their pixels are lost: all are transparent black.' : 'Their pixels are kept.',
+        code === 0 ? 'The font is kept.' : `The font is lost: measuring a text gives ${code}.`,
+        'The page then loads its font and paints the scene again, if enough buffers are free.',
     ];
 }
 
-/** Tells of "back" when a lost window was bound again. */
-export class Losses extends EventTarget {
+/** Emits "back" when a lost window is bound again. */
+export class Losses extends Emitter {
     /** @type {number[] | null} the handles when the window was lost */
     #lost = null;
 
-    /** @type {WEBGL_lose_context | null} what took the context away, until it gives it back */
+    /** @type {WEBGL_lose_context | null} restores the context that it took */
     #taker = null;
 
-    /** @param {Engine} engine */
+    /** @param {import('./engine.js').Engine} engine */
     constructor(engine) {
         super();
         this.engine = engine;
         this.window = find('lose-window', HTMLButtonElement);
         this.context = find('lose-context', HTMLButtonElement);
-        this.facts = find('loss-facts', HTMLElement);
-        this.window.addEventListener('click', () => this.#toggleWindow());
+        this.window.addEventListener('click', () =>
+            engine.isBound ? engine.destroyWindow() : engine.bind(),
+        );
         this.context.addEventListener('click', () => this.#toggleContext());
-        engine.addEventListener('binding', () => this.#follow());
-        engine.addEventListener('restored', () => engine.bind());
+        engine.on('binding', () => this.#follow());
+        engine.on('restored', () => engine.bind());
         this.#follow();
-    }
-
-    /**
-     * Frees the handles of buffers that were not restored: they stay reserved otherwise.
-     *
-     * @param {number[]} before the handles before the loss
-     */
-    #destroyMissing(before) {
-        const { engine } = this;
-        const missing = before.filter((handle) => !engine.targets.has(handle));
-        engine.withoutLog(() => missing.forEach((handle) => engine.surface.ZoDestoryGLFBO(handle)));
-    }
-
-    #toggleWindow() {
-        if (this.engine.isBound) {
-            this.engine.destroyWindow();
-        } else {
-            this.engine.bind();
-        }
     }
 
     #toggleContext() {
@@ -104,23 +64,35 @@ export class Losses extends EventTarget {
     #follow() {
         const { engine } = this;
         if (!engine.isBound) {
-            this.#lost ??= [...engine.targets.keys()].filter((handle) => handle !== windowHandle);
-            this.#show(['The window is lost. Operations fail, with codes, until one is bound.']);
+            this.#lost ??= listBuffers(engine);
+            this.#show(['The window is lost. Operations fail until one is bound.']);
         } else if (this.#lost) {
             this.#show(findFacts(engine, this.#lost));
             this.#destroyMissing(this.#lost);
             this.#lost = null;
             this.#taker = null;
-            this.dispatchEvent(new Event('back'));
+            this.emit('back');
         }
-        this.window.textContent = engine.isBound ? 'Destroy the window' : 'Create it again';
+        this.window.textContent = engine.isBound ? 'Destroy the window' : 'Create a window';
         this.window.disabled = this.#taker !== null;
-        this.context.textContent = this.#taker ? 'Give it back' : 'Take the WebGL context away';
+        this.context.textContent = this.#taker ? 'Restore the context' : 'Lose the WebGL context';
         this.context.disabled = !engine.isBound && this.#taker === null;
+    }
+
+    /**
+     * Frees the handles of buffers that were not restored: otherwise they stay reserved.
+     *
+     * @param {number[]} before the handles before the loss
+     */
+    #destroyMissing(before) {
+        const { engine } = this;
+        const missing = before.filter((handle) => !engine.targets.has(handle));
+        engine.withoutLog(() => missing.forEach((handle) => engine.surface.ZoDestoryGLFBO(handle)));
     }
 
     /** @param {string[]} lines */
     #show(lines) {
-        this.facts.replaceChildren(...lines.map((line) => make('li', {}, line)));
+        const items = lines.map((line) => make('li', {}, line));
+        find('loss-facts', HTMLElement).replaceChildren(...items);
     }
 }

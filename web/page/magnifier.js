@@ -1,126 +1,103 @@
-// What the pixel under the pointer is made of, in the buffer and on the window.
+// The channels of the pixel under the pointer, in the buffer and on the window.
 
-import { find, make, oncePerFrame, throttle } from './dom.js';
-import { windowSize } from './engine.js';
-import { formatHandle, readPixels, windowHandle } from './targets.js';
+import { find, make, throttle } from './dom.js';
+import { formatHandle, windowHandle } from './targets.js';
 
+/** @typedef {import('./libzogles.mjs').Rect} Rect */
 /** @typedef {{ handle: number, x: number, y: number }} Pixel */
 
 const reach = 7; // pixels shown on each side of the one under the pointer
-const pauseBetweenLooks = 100; // milliseconds, while the picture moves
+const side = 2 * reach + 1;
+const pauseBetweenLooks = 100; // milliseconds; the browser waits for the GPU to read pixels
 
 /**
- * @param {import('./libzogles.mjs').Rect} rect
- * @param {number} x
- * @param {number} y
- */
-function holds(rect, x, y) {
-    return x >= rect.x && y >= rect.y && x < rect.x + rect.width && y < rect.y + rect.height;
-}
-
-/**
- * The pixel that lies in one rectangle as (x, y) lies in another.
+ * The pixel of one rectangle that corresponds to a pixel of another; null outside.
  *
- * @param {import('./libzogles.mjs').Rect} from
- * @param {import('./libzogles.mjs').Rect} to
- * @param {number} x
- * @param {number} y
+ * @param {Rect} from
+ * @param {Rect} to
+ * @param {Pixel} pixel
  */
-function carry(from, to, x, y) {
-    return {
-        x: to.x + Math.floor(((x - from.x + 0.5) * to.width) / from.width),
-        y: to.y + Math.floor(((y - from.y + 0.5) * to.height) / from.height),
-    };
+function carry(from, to, { x, y }) {
+    const [right, down] = [(x + 0.5 - from.x) / from.width, (y + 0.5 - from.y) / from.height];
+    const isInside = right > 0 && right < 1 && down > 0 && down < 1;
+    return isInside
+        ? { x: to.x + Math.floor(right * to.width), y: to.y + Math.floor(down * to.height) }
+        : null;
 }
 
 export class Magnifier {
-    /** @type {Pixel} */
-    #pixel = { handle: windowHandle, x: 0, y: 0 };
-
-    #ask = oncePerFrame(() => this.#update()); // reading pixels waits for the driver
-
     /**
      * @param {import('./engine.js').Engine} engine
      * @param {import('./stage.js').Stage} stage
      */
     constructor(engine, stage) {
         this.engine = engine;
-        this.lens = find('lens', HTMLCanvasElement);
+        this.stage = stage;
         this.rows = find('pixel-values', HTMLElement);
         this.x = find('pixel-x', HTMLInputElement);
         this.y = find('pixel-y', HTMLInputElement);
-        Object.assign(this.lens, { width: 2 * reach + 1, height: 2 * reach + 1 });
+        const lens = find('lens', HTMLCanvasElement);
+        this.lens = /** @type {CanvasRenderingContext2D} */ (lens.getContext('2d'));
+        Object.assign(lens, { width: side, height: side });
 
-        const point = (/** @type {number} */ x, /** @type {number} */ y) => {
-            this.#pixel = { handle: stage.handle, x, y };
-            this.#ask();
-        };
-        const place = (/** @type {number} */ x, /** @type {number} */ y) => {
+        const showLater = throttle(() => this.#show(), pauseBetweenLooks);
+        const point = (/** @type {{ x: number, y: number }} */ { x, y }) => {
             this.x.value = `${x}`;
             this.y.value = `${y}`;
-            point(x, y);
+            showLater();
         };
-        stage.addEventListener('point', (event) => {
-            const { x, y } = /** @type {CustomEvent} */ (event).detail;
-            place(x, y);
-        });
-        for (const input of [this.x, this.y]) {
-            input.addEventListener('input', () => {
-                if (this.x.validity.valid && this.y.validity.valid) {
-                    point(Number(this.x.value), Number(this.y.value));
-                }
-            });
-        }
-        stage.addEventListener('view', () => {
+        stage.on('point', point);
+        stage.on('view', () => {
             const { width, height } = stage.target ?? engine.canvas;
-            const isInside = Number(this.x.value) < width && Number(this.y.value) < height;
-            place(
-                isInside ? Number(this.x.value) : width >> 1,
-                isInside ? Number(this.y.value) : height >> 1,
-            );
+            const { x, y } = this.#pixel;
+            point(x < width && y < height ? { x, y } : { x: width >> 1, y: height >> 1 });
         });
-        const lookLater = throttle(() => this.#update(), pauseBetweenLooks);
-        engine.addEventListener('drawn', lookLater);
-        point(Number(this.x.value), Number(this.y.value));
+        engine.on('drawn', showLater);
+        this.x.addEventListener('input', showLater);
+        this.y.addEventListener('input', showLater);
+        showLater();
     }
 
-    #update() {
+    /** @returns {Pixel} */
+    get #pixel() {
+        return {
+            handle: this.stage.handle,
+            x: Number(this.x.value),
+            y: Number(this.y.value),
+        };
+    }
+
+    #show() {
+        if (!this.x.validity.valid || !this.y.validity.valid) {
+            return;
+        }
         const [buffer, onWindow] = this.#findPair();
-        this.#drawLens();
         this.rows.replaceChildren(
             this.#makeRow('buffer', buffer),
             this.#makeRow('window', onWindow),
         );
+        this.#drawLens();
     }
 
-    // The pixel of the buffer and the one of the window that it became, as far as there are both.
-    /** @returns {[Pixel | null, Pixel | null]} */
+    // The pixel of the buffer and the pixel of the window that shows it, as far as there are both.
+    /** @returns {(Pixel | null)[]} */
     #findPair() {
         const pixel = this.#pixel;
-        const shown = this.engine.presentation;
-        if (pixel.handle === windowHandle) {
-            const isShown = shown !== null && holds(shown.destination, pixel.x, pixel.y);
-            return [isShown ? this.#findSource(shown, pixel) : null, pixel];
+        const { presentation, targets } = this.engine;
+        if (pixel.handle !== windowHandle) {
+            const isShown = presentation?.handle === pixel.handle;
+            const place = isShown && carry(presentation.source, presentation.destination, pixel);
+            return [pixel, place ? { handle: windowHandle, ...place } : null];
         }
-        const isShown = shown?.handle === pixel.handle && holds(shown.source, pixel.x, pixel.y);
-        const place = isShown ? carry(shown.source, shown.destination, pixel.x, pixel.y) : null;
-        return [pixel, place && { handle: windowHandle, ...place }];
-    }
-
-    /**
-     * The buffer's pixel that became one of the window; past the buffer's sides its edge repeats.
-     *
-     * @param {import('./engine.js').Presentation} shown
-     * @param {Pixel} pixel of the window
-     */
-    #findSource({ handle, source, destination }, { x, y }) {
-        const target = this.engine.targets.get(handle);
-        const place = carry(destination, source, x, y);
-        return {
-            handle,
-            x: Math.min(place.x, (target?.width ?? 1) - 1),
-            y: Math.min(place.y, (target?.height ?? 1) - 1),
-        };
+        const place = presentation && carry(presentation.destination, presentation.source, pixel);
+        if (!place) {
+            return [null, pixel];
+        }
+        // Beyond its sides, a buffer's edge pixels repeat.
+        const { handle } = presentation;
+        const { width, height } = targets.get(handle) ?? { width: 1, height: 1 };
+        const x = Math.min(place.x, width - 1);
+        return [{ handle, x, y: Math.min(place.y, height - 1) }, pixel];
     }
 
     /**
@@ -136,39 +113,23 @@ export class Magnifier {
 
     /**
      * @param {Pixel} pixel
-     * @returns {number[] | null} r, g, b and a, or null where there is none
+     * @returns {(number | string)[] | null} r, g, b and a, or null outside
      */
     #read({ handle, x, y }) {
-        const target = this.engine.targets.get(handle);
-        const isInside = target?.isComplete && holds({ x: 0, y: 0, ...target }, x, y);
-        if (!this.engine.isBound || !target || !isInside) {
-            return null;
-        }
-        return [...readPixels(this.engine.gl, target, { x, y, width: 1, height: 1 })];
+        const { width, height } = this.engine.targets.get(handle) ?? { width: 0, height: 0 };
+        const isInside = x < width && y < height;
+        const picture = isInside && this.engine.read(handle, { x, y, width: 1, height: 1 });
+        return picture ? [...picture.data] : null;
     }
 
     #drawLens() {
         const { handle, x, y } = this.#pixel;
-        const side = 2 * reach + 1;
-        const context = this.lens.getContext('2d');
-        const target = this.engine.targets.get(handle);
-        context?.clearRect(0, 0, side, side);
-        if (!this.engine.isBound || !target?.isComplete) {
-            return;
-        }
         const rect = { x: x - reach, y: y - reach, width: side, height: side };
-        const pixels = readPixels(this.engine.gl, target, rect);
-        if (handle === windowHandle) {
-            // The window's colours are multiplied by alpha already; a buffer's are not.
-            for (let i = 0; i < side * side; ++i) {
-                const isInside = holds(
-                    { x: 0, y: 0, ...windowSize },
-                    rect.x + (i % side),
-                    rect.y + Math.floor(i / side),
-                );
-                pixels[i * 4 + 3] = isInside ? 255 : 0;
-            }
+        const picture = this.engine.read(handle, rect) ?? new ImageData(side, side);
+        // The window's colours are already multiplied by alpha, and shown on black.
+        for (let i = 3; handle === windowHandle && i < picture.data.length; i += 4) {
+            picture.data[i] = 255;
         }
-        context?.putImageData(new ImageData(pixels, side, side), 0, 0);
+        this.lens.putImageData(picture, 0, 0);
     }
 }

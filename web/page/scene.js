@@ -1,9 +1,8 @@
 // The demo's scene, playing on the engine's surface.
 
+import { Emitter } from './dom.js';
 import { fetchPicture } from './files.js';
 import { mostBuffers } from './targets.js';
-
-/** @typedef {import('./engine.js').Engine} Engine */
 
 /** The scene's buffers, in the order in which it creates them. */
 const bufferNames = [
@@ -14,7 +13,7 @@ const bufferNames = [
     'chosen row',
     'scrollbar',
     'frosted glass',
-    'all that does not move',
+    'static parts',
     'frame',
 ];
 
@@ -22,9 +21,9 @@ const buffersToPaintWith = 2;
 
 const shownMinute = 32; // 21:47 by the scene's clock
 const lastMinute = 74;
-const minutesPerFrame = 1 / 60; // a minute in a second
+const minutesPerFrame = 1 / 60; // a minute per second
 
-/** The pictures of the demo that the scene is made of. */
+/** Fetches the pictures that the scene is made of. */
 export async function fetchScenePictures() {
     const [background, glass, logo, volume] = await Promise.all(
         ['background', 'glass', 'logo', 'volume'].map(fetchPicture),
@@ -32,13 +31,9 @@ export async function fetchScenePictures() {
     return { background, glass, logo, volume };
 }
 
-/** Tells of "state" when it starts or stops to play. */
-export class Player extends EventTarget {
-    /**
-     * The names of the scene's buffers, by handle.
-     *
-     * @type {Map<number, string>}
-     */
+/** Emits "state" when it starts or stops to play. */
+export class Player extends Emitter {
+    /** @type {Map<number, string>} the names of the scene's buffers, by handle */
     names = new Map();
 
     isPlaying = false;
@@ -50,8 +45,8 @@ export class Player extends EventTarget {
     #request = 0;
 
     /**
-     * @param {Engine} engine
-     * @param {string} fontPath what the scene is written in
+     * @param {import('./engine.js').Engine} engine
+     * @param {string} fontPath
      * @param {import('./libzogles.mjs').ScenePictures} pictures
      */
     constructor(engine, fontPath, pictures) {
@@ -59,11 +54,11 @@ export class Player extends EventTarget {
         this.engine = engine;
         this.pictures = pictures;
         this.fontPath = fontPath;
-        engine.addEventListener('binding', () => engine.isBound || this.pause());
-        engine.addEventListener('targets', () => this.#checkBuffers());
+        engine.on('binding', () => engine.isBound || this.pause());
+        engine.on('targets', () => this.#checkBuffers());
     }
 
-    /** False once the scene cannot be drawn any more, as when a buffer of its was destroyed. */
+    /** False once the scene cannot be drawn any more, for example after a buffer of it was destroyed. */
     get isGood() {
         return this.#scene?.IsGood() ?? false;
     }
@@ -73,9 +68,9 @@ export class Player extends EventTarget {
     }
 
     /**
-     * Creates the scene anew, and shows its first frame.
+     * Creates the scene again, and shows its first frame.
      *
-     * @returns {boolean} whether that went well; without room for it, nothing is changed
+     * @returns {boolean} false if too few buffers are free; then nothing is changed
      */
     restart() {
         const others = this.engine.targets.size - 1 - this.names.size;
@@ -86,22 +81,21 @@ export class Player extends EventTarget {
     }
 
     #restart() {
+        const { engine } = this;
         this.#scene?.delete();
         this.#scene = null;
         for (const handle of this.names.keys()) {
-            if (this.engine.targets.has(handle)) {
-                this.engine.surface.ZoDestoryGLFBO(handle);
-            }
+            engine.surface.ZoDestoryGLFBO(handle);
         }
         this.names.clear();
-        this.engine.updateTargets();
-        const before = new Set(this.engine.targets.keys());
-        this.#scene = new this.engine.library.DemoScene(this.engine.surface, this.pictures);
+        engine.updateTargets();
+        const before = new Set(engine.targets.keys());
+        this.#scene = new engine.library.DemoScene(engine.surface, this.pictures);
         this.#scene.CreateBuffers();
-        this.engine.updateTargets();
-        const own = [...this.engine.targets.keys()].filter((handle) => !before.has(handle));
-        own.forEach((handle, i) => this.names.set(handle, bufferNames[i]));
-        this.engine.dispatchEvent(new Event('targets')); // they have names now
+        engine.updateTargets();
+        const created = [...engine.targets.keys()].filter((handle) => !before.has(handle));
+        created.forEach((handle, i) => this.names.set(handle, bufferNames[i]));
+        engine.emit('targets'); // they have names now
         return this.repaint();
     }
 
@@ -113,36 +107,22 @@ export class Player extends EventTarget {
         return this.rewrite();
     }
 
-    /** Fills the scene's buffers in the font that is loaded, and shows its first frame. */
+    /** Fills the scene's buffers in the loaded font, and shows its first frame. */
     rewrite() {
         if (!this.isReady) {
             return false;
         }
         this.#scene?.Paint();
         this.#minute = shownMinute;
-        this.drawFrame();
+        this.#drawFrame();
         return this.isGood;
     }
 
     play() {
-        if (this.isPlaying || !this.isReady) {
-            return;
+        if (!this.isPlaying && this.isReady) {
+            this.#setPlaying(true);
+            this.#request = requestAnimationFrame(() => this.#step());
         }
-        this.#setPlaying(true);
-        const step = () => {
-            if (!this.isPlaying) {
-                return;
-            }
-            this.#scene?.Scroll();
-            this.#minute = this.#minute > lastMinute ? 0 : this.#minute + minutesPerFrame;
-            this.drawFrame();
-            if (this.isReady) {
-                this.#request = requestAnimationFrame(step);
-            } else {
-                this.pause();
-            }
-        };
-        this.#request = requestAnimationFrame(step);
     }
 
     pause() {
@@ -150,7 +130,18 @@ export class Player extends EventTarget {
         this.#setPlaying(false);
     }
 
-    // Another buffer may get the handle of one that is gone, and is not the scene's to draw into.
+    #step() {
+        this.#scene?.Scroll();
+        this.#minute = this.#minute > lastMinute ? 0 : this.#minute + minutesPerFrame;
+        this.#drawFrame();
+        if (this.isReady) {
+            this.#request = requestAnimationFrame(() => this.#step());
+        } else {
+            this.pause();
+        }
+    }
+
+    // Another buffer may get the handle of a destroyed one, and must not be drawn into.
     #checkBuffers() {
         const gone = [...this.names.keys()].filter((handle) => !this.engine.targets.has(handle));
         gone.forEach((handle) => this.names.delete(handle));
@@ -164,16 +155,16 @@ export class Player extends EventTarget {
     /** @param {boolean} isPlaying */
     #setPlaying(isPlaying) {
         this.isPlaying = isPlaying;
-        this.dispatchEvent(new Event('state'));
+        this.emit('state');
     }
 
-    drawFrame() {
+    #drawFrame() {
         const { engine } = this;
         this.#scene?.DrawFrame(this.#minute);
         const [frame] = [...this.names.keys()].slice(-1);
         const { width, height } = engine.canvas;
         const all = { x: 0, y: 0, width, height };
         engine.presentation = { handle: frame, source: all, destination: all };
-        engine.tellDrawn();
+        engine.emit('drawn');
     }
 }

@@ -1,38 +1,37 @@
-// The picture: one target, the window or a buffer, with the rectangles of the chosen form upon it.
+// The picture: one target, the window or a buffer, with the rectangles of the chosen form on it.
 
-import { find, make, throttle } from './dom.js';
-import { copyToCanvas, formatHandle, isReadable, windowHandle } from './targets.js';
+import { Emitter, find, make, throttle } from './dom.js';
+import { formatHandle, windowHandle } from './targets.js';
 
 /** @typedef {import('./libzogles.mjs').Rect} Rect */
 
 /**
- * A rectangle or a pen that lies on the picture and can be dragged.
+ * A rectangle or a pen on the picture that can be dragged.
  *
  * @typedef {object} Mark
  * @property {string} label
- * @property {number} handle the target that it belongs to
- * @property {Rect} rect a pen has no extent
- * @property {boolean} isPen
- * @property {(rect: Rect) => void} move tells where it was dragged to
+ * @property {number} handle of its target
+ * @property {Rect} rect
+ * @property {boolean} isPen a place without a size
+ * @property {(rect: Rect) => void} move receives the dragged rectangle
  */
 
-const svgNamespace = 'http://www.w3.org/2000/svg';
-const pauseBetweenCopies = 200; // milliseconds; reading pixels makes the browser wait for the GPU
+const pauseBetweenCopies = 200; // milliseconds; the browser waits for the GPU to read pixels
 
 /**
  * @param {string} name
- * @param {Record<string, string | number>} attributes
+ * @param {Record<string, any>} attributes
  */
 function makeShape(name, attributes) {
-    const shape = document.createElementNS(svgNamespace, name);
+    const shape = document.createElementNS('http://www.w3.org/2000/svg', name);
     for (const [key, value] of Object.entries(attributes)) {
         shape.setAttribute(key, `${value}`);
     }
     return shape;
 }
 
-/** Tells of "view" when another target is shown, and of "point" with a pixel of it. */
-export class Stage extends EventTarget {
+/** Emits "view" when another target is shown, and "point" with a pixel of it. */
+export class Stage extends Emitter {
     handle = windowHandle;
 
     /** @type {Mark[]} */
@@ -51,26 +50,27 @@ export class Stage extends EventTarget {
         this.nameOf = nameOf;
         this.select = find('view', HTMLSelectElement);
         this.viewport = find('viewport', HTMLElement);
-        this.copy = make('canvas', { role: 'img', hidden: true });
-        this.message = make('p', { class: 'empty', hidden: true });
-        this.overlay = makeShape('svg', { 'aria-hidden': 'true' });
+        this.copy = make('canvas', { role: 'img' });
+        this.message = make('p', { class: 'note' });
+        this.overlay = /** @type {SVGElement} */ (makeShape('svg', { 'aria-hidden': 'true' }));
         this.viewport.append(this.copy, this.message, this.overlay);
 
         this.select.addEventListener('change', () => this.view(Number(this.select.value)));
-        for (const type of ['targets', 'binding']) {
-            engine.addEventListener(type, () => this.#listTargets());
-        }
-        const refreshLater = throttle(() => this.refresh(), pauseBetweenCopies);
-        engine.addEventListener('drawn', refreshLater);
-        this.overlay.addEventListener('pointerdown', (event) =>
-            this.#startDrag(/** @type {PointerEvent} */ (event)),
+        engine.on('targets', () => this.#listTargets());
+        engine.on('binding', () => this.#listTargets());
+        engine.on(
+            'drawn',
+            throttle(() => this.refresh(), pauseBetweenCopies),
         );
-        this.viewport.addEventListener('pointermove', (event) => this.#point(event));
-        this.viewport.addEventListener('pointerdown', (event) => this.#point(event));
+        this.overlay.addEventListener('pointerdown', (event) => this.#startDrag(event));
+        for (const type of /** @type {const} */ (['pointerdown', 'pointermove'])) {
+            this.viewport.addEventListener(type, (event) =>
+                this.emit('point', this.#locate(event)),
+            );
+        }
         this.#listTargets();
     }
 
-    /** @returns {import('./targets.js').Target | undefined} */
     get target() {
         return this.engine.targets.get(this.handle);
     }
@@ -79,20 +79,18 @@ export class Stage extends EventTarget {
     view(handle) {
         this.handle = handle;
         this.select.value = `${handle}`;
-        this.#layOut();
         this.refresh();
         this.#drawOverlay();
-        this.dispatchEvent(new Event('view'));
+        this.emit('view');
     }
 
     /** @param {Mark[]} marks */
     setMarks(marks) {
         this.#marks = marks;
-        this.#box = null;
-        this.#drawOverlay();
+        this.setBox(null);
     }
 
-    /** @param {Rect & { handle: number, label: string } | null} box the extent of a text */
+    /** @param {Rect & { handle: number, label: string } | null} box the size of a text */
     setBox(box) {
         this.#box = box;
         this.#drawOverlay();
@@ -101,206 +99,130 @@ export class Stage extends EventTarget {
     #listTargets() {
         const handles = [...this.engine.targets.keys()];
         this.select.replaceChildren(
-            ...handles.map((handle) =>
-                make(
-                    'option',
-                    { value: `${handle}` },
-                    `${formatHandle(handle)} ${this.nameOf(handle)}`,
-                ),
+            ...handles.map((value) =>
+                make('option', { value }, `${formatHandle(value)} ${this.nameOf(value)}`),
             ),
         );
         this.view(handles.includes(this.handle) ? this.handle : windowHandle);
     }
 
-    /** Whether the picture is a copy of a buffer that can be read. */
-    get #isCopy() {
-        const { engine, target } = this;
-        return (
-            this.handle !== windowHandle &&
-            engine.isBound &&
-            target !== undefined &&
-            isReadable(target)
-        );
-    }
-
-    /** Why there is no picture. */
-    #explain() {
-        if (!this.engine.isBound) {
-            return 'No window is bound. Its buffers are remembered by their handles and sizes.';
-        }
-        return this.target?.isComplete
-            ? 'This buffer is too large to be shown whole. Its pixels are told one by one below.'
-            : 'Nothing drawn into a buffer of this size leaves a mark.';
-    }
-
-    #layOut() {
-        const { engine, target } = this;
-        const isWindow = this.handle === windowHandle && engine.isBound;
+    /** Shows what the target holds now, or why it cannot be shown. */
+    refresh() {
+        const { engine, target, copy, message } = this;
+        const isWindow = engine.isBound && this.handle === windowHandle;
         engine.canvas.hidden = !isWindow;
-        this.copy.hidden = !this.#isCopy;
-        this.message.hidden = isWindow || this.#isCopy;
-        this.message.textContent = this.#explain();
+        copy.hidden = isWindow || !engine.copy(this.handle, copy);
+        copy.setAttribute('aria-label', `Buffer ${formatHandle(this.handle)}`);
+        message.hidden = isWindow || !copy.hidden;
+        if (!engine.isBound) {
+            message.textContent = 'No window is bound. Buffers keep their handles and sizes.';
+        } else {
+            message.textContent = target?.isComplete
+                ? 'This buffer is too large to show. Its pixels can be read one by one below.'
+                : 'The driver rejects this size. Drawing into this buffer has no effect.';
+        }
         const { width, height } = target?.isComplete ? target : engine.canvas;
         this.viewport.style.setProperty('--width', `${width}`);
         this.viewport.style.setProperty('--height', `${height}`);
         this.overlay.setAttribute('viewBox', `0 0 ${width} ${height}`);
-        this.copy.setAttribute(
-            'aria-label',
-            `Buffer ${formatHandle(this.handle)} ${this.nameOf(this.handle)}`,
-        );
-    }
-
-    /** Shows what the buffer holds now. */
-    refresh() {
-        if (this.#isCopy && this.target) {
-            copyToCanvas(this.engine.gl, this.target, this.copy);
-        }
     }
 
     /**
-     * Where a pointer is, in pixels of the target.
+     * The pixel of the target under the pointer.
      *
      * @param {PointerEvent} event
      */
-    #locate(event) {
-        const bounds = this.overlay.getBoundingClientRect();
-        const { width, height } = this.target ?? this.engine.canvas;
+    #locate({ clientX, clientY }) {
+        const { left, top, width, height } = this.overlay.getBoundingClientRect();
+        const target = this.target ?? this.engine.canvas;
         return {
-            x: Math.floor(((event.clientX - bounds.left) / bounds.width) * width),
-            y: Math.floor(((event.clientY - bounds.top) / bounds.height) * height),
+            x: Math.floor(((clientX - left) / width) * target.width),
+            y: Math.floor(((clientY - top) / height) * target.height),
         };
     }
 
-    /** @param {PointerEvent} event */
-    #point(event) {
-        this.dispatchEvent(new CustomEvent('point', { detail: this.#locate(event) }));
-    }
-
     #drawOverlay() {
+        const { width } = this.target ?? this.engine.canvas;
+        const size = (12 * width) / (this.overlay.getBoundingClientRect().width || width);
         const shapes = this.#marks
             .filter(({ handle }) => handle === this.handle)
-            .flatMap((mark) => (mark.isPen ? this.#drawPen(mark) : this.#drawRect(mark)));
+            .flatMap((mark) => this.#drawMark(mark, size));
         if (this.#box?.handle === this.handle) {
-            const { x, y, width, height, label } = this.#box;
-            shapes.push(
-                makeShape('rect', { x, y, width, height, class: 'box' }),
-                this.#drawLabel(x, y, label),
-            );
+            const { handle, label, ...rect } = this.#box;
+            shapes.push(makeShape('rect', { ...rect, class: 'box' }), drawLabel(rect, label, size));
         }
         this.overlay.replaceChildren(...shapes);
     }
 
     /**
-     * @param {number} x
-     * @param {number} y
-     * @param {string} label
+     * @param {Mark} mark
+     * @param {number} size of a corner, in the target's pixels
      */
-    #drawLabel(x, y, label) {
-        const size = this.#handleSize();
-        const text = makeShape('text', { x, y: y - size / 2, 'font-size': size * 1.4 });
-        text.textContent = label;
-        return text;
-    }
-
-    /** The side of a mark's corner, in the target's pixels. */
-    #handleSize() {
-        const { width } = this.target ?? this.engine.canvas;
-        const shown = this.overlay.getBoundingClientRect().width || width;
-        return (12 * width) / shown;
-    }
-
-    /** @param {Mark} mark */
-    #drawRect(mark) {
+    #drawMark(mark, size) {
         const { x, y, width, height } = mark.rect;
-        const size = this.#handleSize();
-        const corner = {
-            x: x + width - size / 2,
-            y: y + height - size / 2,
-            width: size,
-            height: size,
-        };
         const index = this.#marks.indexOf(mark);
+        const move = { 'data-mark': index, 'data-part': 'move' };
+        if (mark.isPen) {
+            return [
+                makeShape('line', { x1: x, x2: x + 20 * size, y1: y, y2: y, class: 'box' }),
+                makeShape('circle', { cx: x, cy: y, r: size * 0.7, class: 'corner', ...move }),
+            ];
+        }
+        const corner = { x: x + width - size / 2, y: y + height - size / 2 };
         return [
+            makeShape('rect', { ...mark.rect, class: 'mark', ...move }),
             makeShape('rect', {
-                x,
-                y,
-                width,
-                height,
-                class: 'mark',
-                'data-mark': index,
-                'data-part': 'move',
+                ...{ ...corner, width: size, height: size, class: 'corner' },
+                ...{ 'data-mark': index, 'data-part': 'resize' },
             }),
-            makeShape('rect', {
-                ...corner,
-                class: 'corner',
-                'data-mark': index,
-                'data-part': 'resize',
-            }),
-            this.#drawLabel(x, y, mark.label),
-        ];
-    }
-
-    /** @param {Mark} mark */
-    #drawPen(mark) {
-        const { x, y } = mark.rect;
-        const size = this.#handleSize();
-        return [
-            makeShape('line', { x1: x, x2: x + 20 * size, y1: y, y2: y, class: 'baseline' }),
-            makeShape('circle', {
-                ...{ cx: x, cy: y, r: size * 0.7, class: 'corner' },
-                ...{ 'data-mark': this.#marks.indexOf(mark), 'data-part': 'move' },
-            }),
+            drawLabel(mark.rect, mark.label, size),
         ];
     }
 
     /** @param {PointerEvent} event */
     #startDrag(event) {
-        if (event.button !== 0 || !event.isPrimary) {
-            return;
-        }
         const part = event.target instanceof SVGElement ? event.target.dataset : {};
-        const own = this.#marks.filter(({ handle }) => handle === this.handle);
-        // A drag that starts beside all of them draws the first rectangle anew.
-        const mark =
-            part.mark === undefined
-                ? own.find(({ isPen }) => !isPen)
-                : this.#marks[Number(part.mark)];
-        if (!mark) {
+        // A drag that starts outside all marks draws the first rectangle anew.
+        const mark = part.mark
+            ? this.#marks[Number(part.mark)]
+            : this.#marks.find(({ isPen, handle }) => !isPen && handle === this.handle);
+        if (event.button !== 0 || !event.isPrimary || !mark) {
             return;
         }
         event.preventDefault();
         const from = this.#locate(event);
-        const start = part.mark === undefined ? { ...from, width: 0, height: 0 } : mark.rect;
-        const isResizing = part.part !== 'move';
+        const start = part.mark ? mark.rect : { ...from, width: 0, height: 0 };
         this.overlay.setPointerCapture(event.pointerId);
-        const drag = (/** @type {Event} */ moved) => {
-            const to = this.#locate(/** @type {PointerEvent} */ (moved));
-            mark.move(dragRect(start, to.x - from.x, to.y - from.y, isResizing));
+        this.overlay.onpointermove = (moved) => {
+            const to = this.#locate(moved);
+            mark.move(dragRect(start, to.x - from.x, to.y - from.y, part.part === 'move'));
         };
-        const end = () => {
-            this.overlay.removeEventListener('pointermove', drag);
-            this.overlay.removeEventListener('pointerup', end);
-            this.overlay.removeEventListener('pointercancel', end);
-        };
-        this.overlay.addEventListener('pointermove', drag);
-        this.overlay.addEventListener('pointerup', end);
-        this.overlay.addEventListener('pointercancel', end);
+        this.overlay.onlostpointercapture = () => (this.overlay.onpointermove = null);
     }
 }
 
 /**
- * A rectangle moved or resized by some pixels. It never starts outside the target on the left or above:
- * its fields know no negative numbers.
+ * @param {{ x: number, y: number }} place
+ * @param {string} text
+ * @param {number} size
+ */
+function drawLabel({ x, y }, text, size) {
+    const label = makeShape('text', { x, y: y - size / 2, 'font-size': size * 1.4 });
+    label.textContent = text;
+    return label;
+}
+
+/**
+ * A rectangle moved or resized by some pixels, without negative numbers, which its fields cannot hold.
  *
  * @param {Rect} start
  * @param {number} dx
  * @param {number} dy
- * @param {boolean} isResizing
+ * @param {boolean} isMoving
  * @returns {Rect}
  */
-function dragRect({ x, y, width, height }, dx, dy, isResizing) {
-    if (!isResizing) {
-        return { x: Math.max(0, x + dx), y: Math.max(0, y + dy), width, height };
-    }
-    return { x, y, width: Math.max(0, width + dx), height: Math.max(0, height + dy) };
+function dragRect({ x, y, width, height }, dx, dy, isMoving) {
+    return isMoving
+        ? { x: Math.max(0, x + dx), y: Math.max(0, y + dy), width, height }
+        : { x, y, width: Math.max(0, width + dx), height: Math.max(0, height + dy) };
 }

@@ -1,5 +1,5 @@
 // The targets that the library draws into, as WebGL has them: where they are, how large they are, and
-// what they hold.
+// which pixels they hold.
 
 /** @typedef {import('./libzogles.mjs').Rect} Rect */
 /**
@@ -14,13 +14,12 @@ export const windowHandle = 0x10000;
 export const noHandle = 0xffffffff;
 export const mostBuffers = 15;
 
-const nowhere = { x: 0, y: 0, width: 0, height: 0 };
-const nothing = { r: 0, g: 0, b: 0, a: 0 };
+const mostPixels = 4096 * 4096; // read at once
 
 /**
- * Finds the framebuffer and the size of a handle. Both are the library's own affair; but every drawing
- * operation binds the one and sets the viewport to the other, so an empty rectangle shows them.
- * The surface must be bound: a drawing operation on one that is not would make it a pool of buffers.
+ * Finds the framebuffer and the size of a handle. The library does not reveal them, but every drawing
+ * operation binds the one and sets the viewport to the other, so an empty rectangle shows both.
+ * The surface must be bound: drawing on an unbound one would prevent the restoration of its buffers.
  *
  * @param {WebGLRenderingContext} gl
  * @param {import('./libzogles.mjs').Surface} surface
@@ -40,8 +39,9 @@ export function findTarget(gl, surface, handle) {
         viewport.call(gl, x, y, width, height);
     };
     gl.drawArrays = () => {};
+    const nowhere = { x: 0, y: 0, width: 0, height: 0 };
     try {
-        if (surface.ZoDrawRect(handle, nowhere, nothing) !== 0) {
+        if (surface.ZoDrawRect(handle, nowhere, { r: 0, g: 0, b: 0, a: 0 }) !== 0) {
             return null;
         }
     } finally {
@@ -54,48 +54,27 @@ export function findTarget(gl, surface, handle) {
 }
 
 /**
- * Reads pixels as the target holds them, rows from the top. What lies outside reads as zeros.
+ * Reads pixels as the target holds them, rows from the top. Pixels outside read as zeros.
  *
  * @param {WebGLRenderingContext} gl
  * @param {Target} target
  * @param {Rect} rect
+ * @returns {ImageData | null} null if there are too many, or if WebGL cannot read them
  */
 export function readPixels(gl, target, { x, y, width, height }) {
+    if (!target.isComplete || width * height > mostPixels) {
+        return null;
+    }
     const rows = new Uint8Array(width * height * 4);
     gl.bindFramebuffer(gl.FRAMEBUFFER, target.framebuffer);
     gl.readPixels(x, target.height - y - height, width, height, gl.RGBA, gl.UNSIGNED_BYTE, rows);
     gl.bindFramebuffer(gl.FRAMEBUFFER, null);
-    const pixels = new Uint8ClampedArray(rows.length);
+    const picture = new ImageData(width, height);
     for (let row = 0; row < height; ++row) {
         const start = (height - 1 - row) * width * 4;
-        pixels.set(rows.subarray(start, start + width * 4), row * width * 4);
+        picture.data.set(rows.subarray(start, start + width * 4), row * width * 4);
     }
-    return pixels;
-}
-
-/**
- * Puts what a target holds on a 2D canvas, which gets the target's size.
- *
- * @param {WebGLRenderingContext} gl
- * @param {Target} target
- * @param {HTMLCanvasElement} canvas
- */
-export function copyToCanvas(gl, target, canvas) {
-    const { width, height } = target;
-    if (canvas.width !== width || canvas.height !== height) {
-        Object.assign(canvas, { width, height });
-    }
-    const pixels = readPixels(gl, target, { x: 0, y: 0, width, height });
-    canvas.getContext('2d')?.putImageData(new ImageData(pixels, width, height), 0, 0);
-}
-
-/**
- * Whether a target's pixels can be read, and are few enough to be read as a whole.
- *
- * @param {Target} target
- */
-export function isReadable({ isComplete, width, height }) {
-    return isComplete && width * height <= 4096 * 4096;
+    return picture;
 }
 
 /** @param {number} handle */

@@ -1,15 +1,37 @@
-// Forms and picture, tied together: the form's rectangles lie on the picture, and the picture shows what
-// the form's operation did.
+// Connects forms and picture: the picture shows the form's rectangles, and the operation's effect.
 
 import { notice } from './dom.js';
-import { compareSizes, placeBox, takePicture } from './measure.js';
-import { ownHandle } from './operations.js';
+import { runOperation } from './operations.js';
 import { windowHandle } from './targets.js';
 
-/** Where a text is drawn unless its form says otherwise. */
-const usualPen = { handle: ownHandle, rect: { x: 60, y: 200 } };
+// A text's height has no defined place. With the baseline this far below its top, it covers ascenders and
+// descenders.
+const rise = 40;
+
+/**
+ * The size of the smallest rectangle around all pixels that differ.
+ *
+ * @param {ImageData} before
+ * @param {ImageData} after
+ */
+function measureChange(before, after) {
+    const old = new Uint32Array(before.data.buffer);
+    const now = new Uint32Array(after.data.buffer);
+    let [left, top, right, bottom] = [before.width, before.height, -1, -1];
+    now.forEach((pixel, i) => {
+        if (pixel !== old[i]) {
+            const [x, y] = [i % before.width, Math.floor(i / before.width)];
+            [left, right] = [Math.min(left, x), Math.max(right, x)];
+            [top, bottom] = [Math.min(top, y), y];
+        }
+    });
+    return right < 0 ? 'no pixel changed' : `${right - left + 1} × ${bottom - top + 1} changed`;
+}
 
 export class Workbench {
+    /** @type {import('./log.js').LogLine[]} of the running operation */
+    #lines = [];
+
     /**
      * @param {import('./engine.js').Engine} engine
      * @param {import('./scene.js').Player} player
@@ -25,26 +47,23 @@ export class Workbench {
         this.panel = panel;
         this.table = table;
 
-        panel.addEventListener('change', () => this.#mark());
-        panel.addEventListener('choose', () => this.#showTarget());
-        panel.addEventListener('run', () => this.#run());
+        engine.on('log', (line) => this.#lines.push(line));
+        engine.on('targets', () => panel.form.refresh());
+        panel.on('change', () => this.#mark());
+        panel.on('choose', () => this.#showTarget());
+        panel.on('run', () => this.run());
         panel.panel.addEventListener('focusin', (event) => this.#followFocus(event));
-        table.addEventListener('view', (event) =>
-            stage.view(/** @type {CustomEvent} */ (event).detail),
-        );
-        table.addEventListener('destroy', (event) =>
-            this.#destroy(/** @type {CustomEvent} */ (event).detail),
-        );
-        engine.addEventListener('targets', () => panel.form.refresh());
+        table.on('view', (handle) => stage.view(handle));
+        table.on('destroy', (handle) => {
+            panel.choose('ZoDestoryGLFBO').write({ handle });
+            this.run();
+            panel.focus(); // the pressed button is gone
+        });
         this.#mark();
     }
 
-    get #pen() {
-        return this.panel.forms.get('ZoDrawText')?.values ?? usualPen;
-    }
-
     /**
-     * The target that a rectangle or a pen lies on.
+     * The target of a rectangle or a pen.
      *
      * @param {import('./operations.js').Field} field
      * @returns {number}
@@ -70,25 +89,29 @@ export class Workbench {
         this.stage.setMarks(
             fields
                 .filter(([, { kind }]) => kind === 'rect' || kind === 'pen')
-                .map(([name, field]) => ({
-                    label: field.label,
+                .map(([label, field]) => ({
+                    label,
                     handle: this.#targetOf(field),
-                    rect: { width: 0, height: 0, ...form.values[name] },
+                    rect: form.values[label],
                     isPen: field.kind === 'pen',
-                    move: (rect) => form.write(name, rect),
+                    move: (rect) => form.write({ [label]: rect }),
                 })),
         );
     }
 
     #showTarget() {
-        const { operation, values } = this.panel.form;
-        const isMeasuring = operation.name === 'ZoGetTextSize';
-        this.#view(isMeasuring ? this.#pen.handle : operation.drawsInto?.(values));
+        const { operation, values, name } = this.panel.form;
+        this.#view(name === 'ZoGetTextSize' ? this.#pen.handle : operation.drawsInto?.(values));
         this.#mark();
     }
 
+    /** The place of the form that draws text, for texts that are only measured. */
+    get #pen() {
+        return this.panel.forms.get('ZoDrawText')?.values ?? {};
+    }
+
     /**
-     * Who fills in a rectangle sees what it lies on.
+     * Shows the target of the rectangle that the visitor fills in.
      *
      * @param {FocusEvent} event
      */
@@ -100,72 +123,67 @@ export class Workbench {
         }
     }
 
-    #run() {
+    /** Runs the chosen operation and shows its effect. */
+    run() {
         const { engine, player, stage, panel } = this;
-        const { operation, values } = panel.form;
+        const { operation, values, name } = panel.form;
         const handle = operation.drawsInto?.(values);
         if (handle === windowHandle && player.isPlaying) {
             player.pause();
-            notice('The scene pauses, so that what you draw on the window stays.');
+            notice('The scene is paused, so that it does not draw over your drawing.');
         }
-        const before = operation.name === 'ZoDrawText' ? takePicture(engine, values.handle) : null;
-        const { outcome, lines } = this.#call();
-        if (handle === windowHandle && operation.name !== 'ZoDisplayFBO') {
+        const before = name === 'ZoDrawText' ? engine.read(values.handle) : null;
+        const outcome = this.#call(name, values);
+        const lines = this.#lines;
+        if (handle === windowHandle && name !== 'ZoDisplayFBO') {
             engine.presentation = null;
         }
         engine.updateTargets();
         this.#view(handle);
         stage.refresh();
-        this.#showBox(outcome, before);
+        if (before && outcome.code === 0) {
+            this.#compareSizes(outcome, values, before);
+        }
+        if (outcome.box) {
+            const { handle, rect } = name === 'ZoDrawText' ? values : this.#pen;
+            const { width, height } = outcome.box;
+            const label = `${width} × ${height}`;
+            stage.setBox({ handle, x: rect.x, y: rect.y - rise, width, height, label });
+        }
         panel.form.show(outcome, lines);
         this.table.draw(stage.handle);
-        engine.tellDrawn();
+        engine.emit('drawn');
     }
 
-    /** Runs the operation, and gathers what it logs. */
-    #call() {
-        const { operation, values } = this.panel.form;
-        /** @type {import('./log.js').LogLine[]} */
-        const lines = [];
-        const listen = (/** @type {Event} */ event) =>
-            lines.push(/** @type {CustomEvent} */ (event).detail);
-        this.engine.addEventListener('log', listen);
+    /**
+     * @param {string} name
+     * @param {any} values
+     */
+    #call(name, values) {
+        this.#lines = [];
         try {
-            return { outcome: operation.run(this.engine, values), lines };
+            return runOperation(this.engine, name, values);
         } catch {
-            // Not the library: what is handed to it is copied first.
-            return { outcome: { note: 'The page has no memory for such a call.' }, lines };
-        } finally {
-            this.engine.removeEventListener('log', listen);
+            // Not from the library: its arguments are copied first.
+            return { note: 'The page has not enough memory for this call.' };
         }
     }
 
     /**
-     * Shows the size that the library reports of a text, over what was drawn.
+     * Compares the size that the library reports of a text with the pixels that changed.
      *
-     * @param {import('./operations.js').Outcome} outcome gets a note of it
-     * @param {ReturnType<typeof takePicture>} before the target before it was drawn, if it was
+     * @param {import('./operations.js').Outcome} outcome gets both
+     * @param {any} values
+     * @param {ImageData} before
      */
-    #showBox(outcome, before) {
-        const { engine, stage } = this;
-        if (outcome.box) {
-            stage.setBox({ handle: this.#pen.handle, ...placeBox(outcome.box, this.#pen.rect) });
-            return;
+    #compareSizes(outcome, { handle, text, length }, before) {
+        const { engine } = this;
+        const box = engine.withoutLog(() => engine.surface.ZoGetTextSize(text, length));
+        const after = engine.read(handle);
+        if (after) {
+            const change = measureChange(before, after);
+            outcome.note = `ZoGetTextSize gives ${box.width} × ${box.height}; ${change}.`;
+            outcome.box = box;
         }
-        const { values } = this.panel.form;
-        const after = before && outcome.code === 0 ? takePicture(engine, values.handle) : null;
-        if (before && after) {
-            const size = engine.withoutLog(() => engine.surface.ZoGetTextSize(values));
-            stage.setBox({ handle: values.handle, ...placeBox(size, values.rect) });
-            outcome.note = compareSizes(size, before, after);
-        }
-    }
-
-    /** @param {number} handle */
-    #destroy(handle) {
-        this.panel.choose('ZoDestoryGLFBO');
-        this.panel.form.write('handle', handle);
-        this.#run();
-        this.panel.focus(); // the button that was pressed is gone
     }
 }

@@ -1,4 +1,4 @@
-// The program and the page that the guide prints, as they stand there.
+// The program and the page of the guide, extracted from it.
 
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
@@ -10,7 +10,7 @@ const build = process.env.PLAYGROUND_BUILD ?? 'build/web/web';
 const guide = readFileSync(new URL('../../docs/web.md', import.meta.url), 'utf8');
 
 /**
- * How many of the canvas's pixels have a colour.
+ * Counts the canvas's pixels of a colour.
  *
  * @param {import('playwright-core').Page} page
  * @param {number[]} color

@@ -1,37 +1,34 @@
-// The browser that the tests drive, and what they all watch: whatever a visit does, nothing may reach the
-// console as an error, no request may fail, and none may leave the page's own server.
+// The browser that the tests drive. In every test no error may reach the console, no request may fail, and
+// no request may leave the page's own server.
 
 import assert from 'node:assert/strict';
 import { mkdirSync } from 'node:fs';
 import { after, afterEach, before } from 'node:test';
 import { chromium } from 'playwright-core';
 
-/** Where the playground is served, and where pictures of it go: set by scripts/web --test. */
+/** Where the playground is served, and where screenshots go: set by scripts/web --test. */
 export const address = process.env.PLAYGROUND_ADDRESS ?? 'http://localhost:8000/';
 export const pictures = process.env.PLAYGROUND_PICTURES ?? 'out/web-test';
 
 export const wide = { width: 1440, height: 900 };
-export const narrow = { width: 390, height: 844 };
+export const own = 0x1000a; // the buffer that the page creates for its visitor
 
 /**
- * Opens the playground for all tests of a file. After each of them, nothing may have gone wrong beside what
- * the test looks at. A script that shall run before the page's own is `prepare`.
+ * Opens the playground for all tests of a file. `prepare` runs before the page's own scripts.
  *
  * @param {{ prepare?: () => void }} [options]
  */
-export function openPlayground({ prepare } = {}) {
+export function openPlayground({ prepare = () => {} } = {}) {
     const playground = new Playground();
     /** @type {import('playwright-core').Browser} */
     let browser;
     before(async () => {
         browser = await launchBrowser();
-        // Who wants less motion gets a scene that stands still.
+        // With reduced motion the scene does not play by itself.
         const context = await browser.newContext({ viewport: wide, reducedMotion: 'reduce' });
         playground.page = await context.newPage();
         watch(playground.page, playground.faults);
-        if (prepare) {
-            await playground.page.addInitScript(prepare);
-        }
+        await playground.page.addInitScript(prepare);
         await playground.page.goto(address);
         await playground.page.waitForSelector('html[data-state]', { timeout: 60000 });
     });
@@ -51,7 +48,7 @@ export function launchBrowser() {
 
 /**
  * @param {import('playwright-core').Page} page
- * @param {string[]} faults gets what goes wrong
+ * @param {string[]} faults receives what goes wrong
  */
 export function watch(page, faults) {
     page.on('console', (message) => {
@@ -62,8 +59,7 @@ export function watch(page, faults) {
     page.on('pageerror', (error) => faults.push(`page: ${error.stack}`));
     page.on('requestfailed', (request) => faults.push(`failed request: ${request.url()}`));
     page.on('request', (request) => {
-        const { origin, protocol } = new URL(request.url());
-        if (origin !== new URL(address).origin && protocol !== 'blob:' && protocol !== 'data:') {
+        if (!request.url().startsWith(address)) {
             faults.push(`request leaves the page: ${request.url()}`);
         }
     });
@@ -74,9 +70,9 @@ export function watch(page, faults) {
     });
 }
 
-/** @typedef {Record<string, number>} Numbers */
+/** @typedef {Record<string, string | number | boolean | Record<string, number>>} Fields */
 
-/** The page as a visitor has it. */
+/** The page as a visitor uses it. */
 export class Playground {
     /** @type {import('playwright-core').Page} */
     page = /** @type {any} */ (undefined); // until it is opened
@@ -84,16 +80,20 @@ export class Playground {
     /** @type {string[]} what went wrong so far */
     faults = [];
 
+    get panel() {
+        return this.page.locator('#operation-panel');
+    }
+
     /**
      * Fills in a form.
      *
      * @param {string} operation
-     * @param {Record<string, string | number | boolean | Numbers>} [fields] by name; a select's is a value
+     * @param {Fields} [fields] by name; of a select the value
      */
     async fill(operation, fields = {}) {
-        await this.page.getByRole('tab', { name: operation, exact: true }).click();
+        await this.page.getByRole('radio', { name: operation }).check({ force: true });
         for (const [name, value] of Object.entries(fields)) {
-            const field = this.page.locator(`#operation-panel [data-field=${name}]`);
+            const field = this.panel.locator(`[data-field=${name}]`);
             if (typeof value === 'object') {
                 for (const [label, number] of Object.entries(value)) {
                     await field.getByLabel(label, { exact: true }).fill(`${number}`);
@@ -109,60 +109,66 @@ export class Playground {
     }
 
     /**
-     * Fills in a form, runs it, and gives what the page says came of it.
+     * Fills in a form, runs it, and returns the page's report of the result.
      *
      * @param {string} operation
-     * @param {Parameters<Playground['fill']>[1]} [fields]
+     * @param {Fields} [fields]
+     * @param {RegExp} [expected] what the report has to match
      */
-    async run(operation, fields) {
+    async run(operation, fields, expected = /^0 ZO_SUCCESS/) {
         await this.fill(operation, fields);
         await this.press(`Run ${operation}`);
-        return this.page.locator('#operation-panel').getByRole('status').innerText();
+        const report = await this.panel.getByRole('status').innerText();
+        assert.match(report, expected, `${operation} ${JSON.stringify(fields)}`);
+        return report;
     }
 
-    /** @param {string} name of a button */
-    async press(name) {
-        await this.page.getByRole('button', { name, exact: true }).click();
+    /** @param {string[]} names of buttons */
+    async press(...names) {
+        for (const name of names) {
+            await this.page.getByRole('button', { name, exact: true }).click();
+        }
+    }
+
+    /** @param {number} handle */
+    async view(handle) {
+        await this.page.locator('#view').selectOption(`${handle}`);
     }
 
     /**
-     * What the magnifier tells of the pixel at (x, y) of the shown target.
+     * The magnifier's values of the pixel at (x, y) of the shown target.
      *
      * @param {number} x
      * @param {number} y
-     * @returns {Promise<{ buffer: string, window: string }>} "r g b a"
+     * @returns {Promise<string[]>} "r g b a" in the buffer and on the window
      */
     async pixel(x, y) {
         await this.page.locator('#pixel-x').fill(`${x}`);
         await this.page.locator('#pixel-y').fill(`${y}`);
-        await this.page.evaluate(() => new Promise(requestAnimationFrame));
-        const [buffer, window] = await this.page.locator('#pixel-values').evaluate((body) =>
+        await this.page.waitForTimeout(200); // the values follow at most every 100 ms
+        return this.page.locator('#pixel-values').evaluate((body) =>
             [...body.children].map((row) => {
                 const cells = [...row.children].map((cell) => cell.textContent);
                 return cells.slice(-4).join(' ');
             }),
         );
-        return { buffer, window };
     }
 
-    /** The window's pixels as WebGL has them, rows from the bottom. */
+    /** The window's pixels as WebGL returns them, rows from the bottom. */
     async windowPixels() {
         const text = await this.page.locator('#viewport canvas').first().evaluate(readWindow);
         return Buffer.from(text, 'base64');
     }
 
-    /** @param {string} text of the list of buffers */
+    /** @param {string} text such as "10 of 15" */
     async waitForBuffers(text) {
         await this.page.locator('#buffer-count').getByText(text).waitFor();
     }
 
-    /**
-     * @param {string} name
-     * @param {boolean} [isWhole] whether it goes beyond what the screen shows
-     */
-    async picture(name, isWhole = true) {
-        await this.page.evaluate(() => scrollTo(0, 0)); // what sticks to the screen stands at the top
-        await this.page.screenshot({ path: `${pictures}/${name}.png`, fullPage: isWhole });
+    /** @param {string} name */
+    async picture(name) {
+        await this.page.evaluate(() => scrollTo(0, 0)); // sticky parts stand at the top
+        await this.page.screenshot({ path: `${pictures}/${name}.png`, fullPage: true });
     }
 }
 

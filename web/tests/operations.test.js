@@ -1,108 +1,181 @@
-// Every operation by its form: the code, what it tells, and the pixels that it leaves.
+// Every operation by its form: the code, the report, and the pixels.
 
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
+import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
-import { openPlayground } from './harness.js';
+import { openPlayground, own } from './harness.js';
 
 const include = new URL('../../include', import.meta.url).pathname;
-const playground = openPlayground();
-const success = /^0 ZO_SUCCESS/;
-const own = 0x1000a; // the buffer that the page makes for its visitor
+const font = process.env.PLAYGROUND_FONT ?? '../out/web/DejaVuSans.ttf';
+const noPixel = '— — — —';
 
-test('rectangles, copies and presentations leave the pixels that they should', async () => {
+const playground = openPlayground();
+
+/** @param {string} text */
+async function measure(text) {
+    const report = await playground.run('ZoGetTextSize', { text }, /width \d+, height 50/);
+    return Number(/width (\d+)/.exec(report)?.[1]);
+}
+
+/**
+ * Gives the page a file, as a visitor would, and returns its report.
+ *
+ * @param {string} name
+ * @param {Buffer} buffer
+ */
+async function give(name, buffer) {
+    const report = playground.page.locator('#file-report');
+    await report.evaluate((element) => element.replaceChildren());
+    const mimeType = name.endsWith('.png') ? 'image/png' : 'font/ttf';
+    await playground.page.locator('#file-input').setInputFiles({ name, mimeType, buffer });
+    await report.getByText(name).waitFor({ timeout: 60000 });
+    return report.innerText();
+}
+
+test('rectangles, copies and presentations draw exactly their pixels', async () => {
     const rect = { x: 100, y: 50, width: 20, height: 10 };
     const color = { r: 200, g: 100, b: 0, a: 128 };
-    assert.match(await playground.run('ZoDrawRect', { rect, color }), success);
-    assert.equal((await playground.pixel(119, 59)).buffer, '200 100 0 128');
-    assert.equal((await playground.pixel(120, 59)).buffer, '32 40 92 255');
-    assert.equal((await playground.pixel(100, 50)).window, '— — — —');
-    await playground.picture('rectangle');
+    await playground.run('ZoDrawRect', { rect, color });
+    assert.deepEqual(await playground.pixel(119, 59), ['200 100 0 128', noPixel]);
+    assert.deepEqual(await playground.pixel(120, 59), ['32 40 92 255', noPixel]);
 
-    // Within one buffer, onto what is read; then onto the window, where nothing is blended either.
+    // Within one buffer, onto the source itself; then onto the window, which is not blended either.
     const srcRect = { x: 96, y: 50, width: 8, height: 10 };
     const dstRect = { x: 100, y: 50, width: 8, height: 10 };
-    const within = { srcHandle: own, srcRect, dstHandle: own, dstRect };
-    assert.match(await playground.run('ZoBlit', within), success);
-    assert.equal((await playground.pixel(103, 50)).buffer, '32 40 92 255');
-    assert.equal((await playground.pixel(104, 50)).buffer, '200 100 0 128');
-    const onWindow = { srcRect: dstRect, dstHandle: 0x10000 };
-    assert.match(await playground.run('ZoBlit', onWindow), success);
-    assert.equal((await playground.pixel(104, 50)).window, '200 100 0 128');
-    await playground.picture('copy');
+    await playground.run('ZoBlit', { srcHandle: own, srcRect, dstHandle: own, dstRect });
+    assert.equal((await playground.pixel(103, 50))[0], '32 40 92 255');
+    assert.equal((await playground.pixel(104, 50))[0], '200 100 0 128');
+    await playground.run('ZoBlit', { srcRect: dstRect, dstHandle: 0x10000 });
+    assert.equal((await playground.pixel(104, 50))[1], '200 100 0 128');
 
     // A channel of 1 is full intensity.
-    const full = { r: 1, g: 2, b: 0, a: 1 };
-    assert.match(await playground.run('ZoDrawRect', { color: full }), success);
-    assert.equal((await playground.pixel(100, 50)).buffer, '255 2 0 255');
+    await playground.run('ZoDrawRect', { color: { r: 1, g: 2, b: 0, a: 1 } });
+    assert.equal((await playground.pixel(100, 50))[0], '255 2 0 255');
 
-    // (r, g, b, a) lands as (r*a, g*a, b*a, a*a), here with a = 128/255.
+    // (r, g, b, a) becomes (r*a, g*a, b*a, a*a), here with a = 128/255.
     await playground.run('ZoDrawRect', { rect, color });
-    const src = rect;
     const dst = { x: 640, y: 360, width: 40, height: 20 };
-    assert.match(await playground.run('ZoDisplayFBO', { fbo: own, src, dst }), success);
-    assert.deepEqual(await playground.pixel(660, 370), {
-        buffer: '200 100 0 128',
-        window: '100 50 0 64',
-    });
-    assert.deepEqual(await playground.pixel(639, 370), {
-        buffer: '— — — —',
-        window: '0 0 0 0',
-    });
+    await playground.run('ZoDisplayFBO', { fbo: own, src: rect, dst });
+    assert.deepEqual(await playground.pixel(660, 370), ['200 100 0 128', '100 50 0 64']);
+    assert.deepEqual(await playground.pixel(639, 370), [noPixel, '0 0 0 0']);
     await playground.picture('presentation');
+
+    await playground.run('ZoDisplayBitmap');
+    assert.equal((await playground.pixel(459, 300))[1], '0 0 0 0');
+    assert.match((await playground.pixel(640, 300))[1], / 255$/);
 });
 
-test('bitmaps, text and measuring', async () => {
+test('text is drawn and measured', async () => {
     const { page } = playground;
-    assert.match(await playground.run('ZoDisplayBitmap'), success);
-    assert.equal((await playground.pixel(459, 300)).window, '0 0 0 0');
-    assert.match((await playground.pixel(640, 300)).window, / 255$/);
-    await playground.picture('bitmap');
+    const [a, b, both] = [await measure('A'), await measure('B'), await measure('A B')];
+    assert.equal(both, a + 30 + b, 'a blank counts as 30');
 
-    assert.match(await playground.run('ZoGetTextSize', { text: 'A B' }), /width \d+, height 50/);
-    const told = [];
-    for (const text of ['A', 'B', 'A B']) {
-        const result = await playground.run('ZoGetTextSize', { text });
-        told.push(Number(/width (\d+)/.exec(result)?.[1]));
-    }
-    assert.equal(told[2], told[0] + 30 + told[1], 'a blank counts as 30');
-
-    const result = await playground.run('ZoDrawText', { text: 'A B' });
-    assert.match(result, success);
-    assert.match(result, /OSDText\s+Char 32 is not exit/);
-    assert.match(result, new RegExp(`reports ${told[2]} × 50; it left marks of \\d+ × \\d+`));
+    const report = await playground.run('ZoDrawText', { text: 'A B' });
+    assert.match(report, /OSDText\s+Char 32 is not exit/);
+    assert.match(report, new RegExp(`gives ${both} × 50; \\d+ × \\d+ changed`));
     const label = page.locator('#viewport svg text').last();
-    assert.equal(await label.textContent(), `${told[2]} × 50`);
+    assert.equal(await label.textContent(), `${both} × 50`);
     await playground.picture('text');
-    const styled = { text: 'Styled', fontSize: 64, bold: true, italic: true };
-    assert.match(await playground.run('ZoDrawText', styled), success);
-    assert.match(await playground.run('ZoLoadFont', { size: 24 }), success);
-    assert.match(
-        await playground.run('ZoGetTextSize', { text: 'A' }),
-        new RegExp(`width (?!${told[0]},)`),
-    );
+    await playground.run('ZoDrawText', { text: 'Styled', fontSize: 64, bold: true, italic: true });
+    await playground.run('ZoLoadFont', { size: 24 });
+    assert.notEqual(await measure('A'), a);
+    await playground.run('ZoLoadFont', { size: 40 });
 });
 
-test('buffers and the window', async () => {
-    assert.match(await playground.run('ZoGetWindowWidth'), /^1280 pixels/);
-    assert.match(await playground.run('ZoGetWindowHeight'), /^720 pixels/);
-    assert.match(await playground.run('Init'), success);
-    assert.match(await playground.run('ZoRefreshOnSrceen'), success);
+test('buffers and the window come and go', async () => {
+    await playground.run('ZoGetWindowWidth', {}, /^1280 pixels/);
+    await playground.run('ZoGetWindowHeight', {}, /^720 pixels/);
+    await playground.run('Init');
+    await playground.run('ZoRefreshOnSrceen');
+    await playground.run('ZoCreateGLWindowSurface'); // again
+    await playground.run('ZoDestoryGLWindowSurface', {}, /^It returns nothing/);
+    await playground.run('ZoCreateGLWindowSurface');
 
-    assert.match(await playground.run('ZoCreateGLFBO'), /^0 ZO_SUCCESS.*\s+handle 0x1000B/);
-    await playground.waitForBuffers('11 of 15');
-    assert.match(await playground.run('ZoDestoryGLFBO', { handle: 0x1000b }), success);
+    for (const slot of ['B', 'C', 'D', 'E', 'F']) {
+        await playground.run('ZoCreateGLFBO', {}, new RegExp(`^0.*\\s+handle 0x1000${slot}`));
+    }
+    await playground.waitForBuffers('15 of 15');
+    await playground.run('ZoCreateGLFBO', {}, /^15 ZO_NO_FREE_FBO.*Destroy one/);
+    await playground.picture('pool-full');
+    await playground.run('ZoDestoryGLFBO', { handle: 0x1000f });
+    await playground.press('Destroy 0x1000B', 'Destroy 0x1000C', 'Destroy 0x1000D');
+    await playground.press('Destroy 0x1000E');
     await playground.waitForBuffers('10 of 15');
-    await playground.press('Destroy 0x1000A');
-    await playground.waitForBuffers('9 of 15');
+});
 
-    assert.match(await playground.run('ZoCreateGLWindowSurface'), success); // once more
-    await playground.waitForBuffers('9 of 15');
-    assert.match(await playground.run('ZoDestoryGLWindowSurface'), /^It returns nothing/);
-    assert.match(await playground.run('ZoCreateGLWindowSurface'), success);
-    await playground.waitForBuffers('9 of 15');
-    const again = await playground.run('ZoCreateGLFBO', { width: 640, height: 360 });
-    assert.match(again, /handle 0x1000A/);
+test('wrong arguments give codes', async () => {
+    for (const fbo of [0x10010, 0xffffffff]) {
+        await playground.run('ZoDrawRect', { fbo }, /^101 ZO_INVALID_PARAM/);
+    }
+    await playground.run('ZoDrawText', { handle: 0x10010 }, /There is not the fbo/);
+    await playground.run('ZoDestoryGLFBO', { handle: 0x10010 }, /^0 .*FBO is not exist/s);
+    await playground.run('ZoCreateGLWindowSurface', { window: '' }, /^101/);
+    await playground.run('ZoDisplayBitmap', { data: '' });
+    await playground.run('ZoLoadFont', { path: '/fonts/missing.ttf' }, /^31/);
+    await playground.run('ZoLoadFont', { path: '/fonts/DejaVuSans.ttf' });
+});
+
+test('extreme sizes give codes, too', async () => {
+    for (const size of [0, 1, 100000, 4294967295]) {
+        await playground.run('ZoCreateGLFBO', { width: size, height: size });
+        const shown = await playground.page.locator('#buffer-rows tr').last().innerText();
+        assert.ok(shown.includes(`${size} × ${size}`), shown);
+        await playground.run('ZoDrawRect', { fbo: 0x1000b });
+        await playground.run('ZoDrawText', { handle: 0x1000b }, size === 0 ? /^101/ : /^0/);
+        await playground.run('ZoDestoryGLFBO', { handle: 0x1000b });
+    }
+    const far = { x: 4294967295, y: 4294967295, width: 4294967295, height: 4294967295 };
+    await playground.run('ZoDrawRect', { fbo: own, rect: far });
+    await playground.run('ZoBlit', { dstHandle: own, srcRect: far, dstRect: far });
+    await playground.run('ZoDisplayFBO', { fbo: own, src: far, dst: far });
+    for (const fontSize of [0, 1, 2000]) {
+        await playground.run('ZoDrawText', { handle: own, fontSize, bold: true, text: 'g' });
+    }
+    await playground.run('ZoDrawText', { fontSize: 70000 }, /^32/);
+    await playground.run('ZoDrawText', { fontSize: 40, bold: false, italic: false });
+    await playground.run('ZoDrawRect', { rect: { x: 0, y: 0, width: 9, height: 9 } });
+});
+
+test('the forms reject what a record cannot hold', async () => {
+    const isValid = () => playground.panel.locator('form').evaluate((f) => f.matches(':valid'));
+    for (const [operation, fields, expected] of /** @type {const} */ ([
+        ['ZoDrawText', { text: 'ab' }, true],
+        ['ZoDrawText', { length: 3 }, false],
+        ['ZoDisplayBitmap', { data: 'poster.png', width: 361 }, false],
+        ['ZoDisplayBitmap', { width: 120, height: 1440 }, true],
+        ['ZoDrawRect', { rect: { x: -1 } }, false],
+        ['ZoGetTextSize', { text: 'ab', length: 3 }, false],
+    ])) {
+        await playground.fill(operation, fields);
+        assert.equal(await isValid(), expected, `${operation} ${JSON.stringify(fields)}`);
+    }
+    await playground.press('Run ZoGetTextSize');
+    assert.equal(await playground.panel.getByRole('status').innerText(), '');
+});
+
+test('a damaged font leaves the font before; a large one names the characters that do not fit', async () => {
+    const whole = readFileSync(font);
+    assert.match(await give('same.ttf', whole), /DejaVu Sans Book.*1023 × \d+ texels.*No char/s);
+    const before = await measure('Volume');
+    for (const damaged of [
+        Buffer.from('no font at all'),
+        Buffer.alloc(0),
+        whole.subarray(0, 4000),
+    ]) {
+        const report = await give('same.ttf', damaged);
+        assert.match(report, /same.ttf: 31 ZO_FONT_FACE_FAILED.*loaded that font again/s);
+        assert.equal(await measure('Volume'), before);
+    }
+    assert.match(await give('x.png', whole), /x.png cannot be read/);
+
+    await playground.page.locator('#file-size').fill('300');
+    const report = await give('large.ttf', whole);
+    const [, count, first] = /(\d+) characters did not fit: (.) U\+/.exec(report) ?? [];
+    const log = await playground.page.getByRole('log').innerText();
+    assert.ok(log.includes(`${count} characters are left out of the texture`), report);
+    await playground.run('ZoDrawText', { handle: own, text: first }, /Char \d+ is not exit/);
+    await playground.picture('font');
 });
 
 test('marks on the picture can be dragged, and the fields follow', async () => {
@@ -116,33 +189,32 @@ test('marks on the picture can be dragged, and the fields follow', async () => {
             box.x + ((x + 0.5) * box.width) / 640,
             box.y + ((y + 0.5) * box.height) / 360,
         );
-    const code = page.locator('#operation-panel code');
-    const drags = /** @type {const} */ ([
+    for (const [from, to, expected] of /** @type {const} */ ([
         [[100, 100], [150, 120], '{130, 80, 240, 160}'], // the whole
         [[370, 240], [400, 250], '{130, 80, 270, 170}'], // its corner
         [[10, 10], [60, 50], '{10, 10, 50, 40}'], // beside it
-        [[30, 30], [0, 0], '{0, 0, 50, 40}'], // never past the left and the top
-    ]);
-    for (const [from, to, expected] of drags) {
+        [[30, 30], [0, 0], '{0, 0, 50, 40}'], // never beyond the left and the top
+    ])) {
         await move(...from);
         await page.mouse.down();
         await move(...to);
         await page.mouse.up();
-        assert.ok((await code.innerText()).includes(`rect = ${expected}`), await code.innerText());
+        const code = await playground.panel.locator('code').last().innerText();
+        assert.ok(code.includes(`rect = ${expected}`), code);
     }
 });
 
-test('the C++ that the forms show compiles', async () => {
-    const { page } = playground;
+test('the C++ of the forms compiles, with variables for handles', async () => {
     const parts = [];
-    for (const tab of await page.getByRole('tab').all()) {
-        await tab.click();
-        parts.push(`{\n${await page.locator('#operation-panel code').innerText()}\n}`);
+    for (const radio of await playground.page.getByRole('radio').all()) {
+        await radio.check({ force: true });
+        parts.push(`{\n${await playground.panel.locator('pre').innerText()}\n}`);
     }
     assert.equal(parts.length, 15);
     const source = `#include <zogles/ZoGLDrawSurface.h>
-        void All(ZoGLDrawSurface& surface, ANativeWindow* window, const unsigned char* pixels) {
+        void All(ZoGLDrawSurface& surface, ANativeWindow* window, const unsigned char* rgbaPixels) {
         ${parts.join('\n')} }`;
+    assert.doesNotMatch(source, /(?<!unsigned int \w+ = )0x1000/);
     const options = ['-std=c++17', '-fsyntax-only', `-I${include}`, '-xc++', '-'];
     execFileSync('c++', options, { input: source, stdio: ['pipe', 'inherit', 'inherit'] });
 });

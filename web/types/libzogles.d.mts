@@ -1,67 +1,21 @@
-// What the compiled library looks like to the page's scripts: see bindings/.
+// The compiled library, as the page's scripts see it: see bindings/.
 
-export interface Rect {
-    x: number;
-    y: number;
-    width: number;
-    height: number;
-}
+export type Rect = Record<'x' | 'y' | 'width' | 'height', number>;
 
-export interface Color {
-    r: number;
-    g: number;
-    b: number;
-    a: number;
-}
+type Color = Record<'r' | 'g' | 'b' | 'a', number>;
 
-export interface TextFields {
-    text: string;
-    length: number;
-    color: Color;
-    fontSize: number;
-    bold: boolean;
-    italic: boolean;
-}
-
-export interface BitmapFields {
-    data: Uint8Array;
-    format: number;
-    width: number;
-    height: number;
-    rect: Rect;
-}
-
-export interface BlitFields {
-    srcHandle: number;
-    dstHandle: number;
-    srcRect: Rect;
-    dstRect: Rect;
-}
-
+/** The operations that the page calls itself. The forms call all of them by name. */
 export interface Surface {
     ZoCreateGLWindowSurface(hasWindow: boolean): number;
     ZoDestoryGLWindowSurface(): void;
-    Init(flags: number): number;
-    ZoRefreshOnSrceen(): number;
-    ZoGetWindowWidth(): number;
-    ZoGetWindowHeight(): number;
     ZoCreateGLFBO(width: number, height: number, format: number): { code: number; handle: number };
     ZoDestoryGLFBO(handle: number): number;
     ZoDrawRect(fbo: number, rect: Rect, color: Color): number;
-    ZoBlit(info: BlitFields): number;
-    ZoDisplayFBO(fbo: number, src: Rect, dst: Rect): number;
-    ZoDisplayBitmap(info: BitmapFields): number;
     ZoLoadFont(path: string, size: number): number;
-    ZoGetTextSize(info: TextFields): { code: number; width: number; height: number };
-    ZoDrawText(handle: number, info: TextFields, rect: Rect): number;
+    ZoGetTextSize(text: string, length: number): { code: number; width: number; height: number };
 }
 
-export interface ScenePictures {
-    background: ImageData;
-    glass: ImageData;
-    logo: ImageData;
-    volume: ImageData;
-}
+export type ScenePictures = Record<'background' | 'glass' | 'logo' | 'volume', ImageData>;
 
 export interface DemoScene {
     CreateBuffers(): void;
@@ -74,8 +28,7 @@ export interface DemoScene {
 }
 
 export interface FontReport {
-    family: string;
-    style: string;
+    name: string;
     mapped: number;
     blank: number;
     atlasWidth: number;
@@ -97,5 +50,5 @@ export interface Library {
 
 export default function createLibrary(options: {
     canvas: HTMLCanvasElement;
-    stderr: (byte: number) => void;
+    printErr: (line: string) => void;
 }): Promise<Library>;
