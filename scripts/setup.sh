@@ -9,7 +9,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # Prints the opening comment of the script that runs.
 print_help() {
-    sed -n '1d; /^#/!q; s/^# \{0,1\}//p' "$script"
+    sed -n '1d; /^#/!q; /SPDX-/d; s/^# \{0,1\}//p' "$script"
 }
 
 # Ends a script that was called with wrong arguments.
