@@ -28,7 +28,7 @@ Layout::Layout(const Rect& windowRect)
     bannerLine[2] = banner.y + Scale(117);
     progress = {bannerLeft, banner.Bottom() - inset - Scale(6), bannerRight - bannerLeft, Scale(6)};
 
-    // The list takes as many whole rows as there is room for above the banner, within reason.
+    // The list has as many whole rows as fit above the banner, within limits.
     const int header = Scale(72);
     const int foot = Scale(24);
     const int side = Scale(16);

@@ -1,4 +1,4 @@
-// Where everything of the scene goes, for a window of any size.
+// The places of everything in the scene, for a window of any size.
 #ifndef OSD_LAYOUT_H
 #define OSD_LAYOUT_H
 
@@ -13,7 +13,7 @@ struct Layout {
     Rect window;
     double unit;
     int radius;
-    int standardText; ///< pixels of the text that takes the library's fast road
+    int standardText; ///< pixels that the font is loaded at, and the fastest to draw
 
     Rect banner;
     Rect logo;

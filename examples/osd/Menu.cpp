@@ -23,19 +23,10 @@ constexpr int channelCount = static_cast<int>(sizeof(channels) / sizeof(channels
 constexpr int firstNumber = 101;
 constexpr int highlightedRow = 3;
 
-std::u16string ToText(int number) {
-    std::u16string text;
-    for (; number > 0; number /= 10) {
-        text.insert(text.begin(), static_cast<char16_t>(u'0' + number % 10));
-    }
-    return text;
-}
-
 } // namespace
 
 Menu::Menu(Canvas& target, Typesetter& setter, const Layout& where)
-    : canvas(target), typesetter(setter), layout(where), first(0), offset(0), rows(ZO_NO_HANDLE),
-      coming(ZO_NO_HANDLE), pill(ZO_NO_HANDLE), chosen(ZO_NO_HANDLE), thumb(ZO_NO_HANDLE) {}
+    : canvas(target), typesetter(setter), layout(where) {}
 
 void Menu::CreateBuffers() {
     rows = canvas.CreateBuffer(layout.list.width, layout.list.height);
@@ -80,8 +71,8 @@ void Menu::PaintRow(unsigned int buffer, int top, int index, bool isHighlighted)
     const int baseline = Typesetter::CenterBaseline(top, layout.rowHeight, pixels);
     const Color strong = isHighlighted ? Palette::ink : Palette::text;
     const Color weak = isHighlighted ? Palette::ink : Palette::quiet;
-    typesetter.Write(buffer, ToText(firstNumber + channel), {pixels, weak}, layout.Scale(58),
-                     baseline, Align::Right);
+    typesetter.Write(buffer, Widen(std::to_string(firstNumber + channel)), {pixels, weak},
+                     layout.Scale(58), baseline, Align::Right);
     typesetter.Write(buffer, channels[channel].name, {pixels, strong, isHighlighted, false},
                      layout.Scale(76), baseline);
     const int small = layout.Scale(17);
@@ -95,7 +86,7 @@ void Menu::PaintHighlight() {
     PaintRow(chosen, 0, first + std::min(highlightedRow, layout.rowCount - 1), true);
 }
 
-// Text in this size is costly, so the row is written once and then shown bit by bit.
+// Text of this size is expensive, so the row is drawn once and then shown bit by bit.
 void Menu::BringNextRow() {
     canvas.Fill(coming, {0, 0, layout.list.width, layout.rowHeight}, Palette::well);
     PaintRow(coming, 0, first + layout.rowCount, false);
@@ -130,7 +121,7 @@ void Menu::Compose(unsigned int frame) {
     canvas.Copy(thumb, {0, 0, handle.width, handle.height}, frame, handle);
 }
 
-// The list begins anew at its end, so the last place is the one before the beginning.
+// The list starts again after its end, so the last place is just before the first one.
 Rect Menu::GetThumb() const {
     const Rect& bar = layout.scrollbar;
     const int length = bar.height * layout.rowCount / (channelCount + layout.rowCount);

@@ -13,7 +13,7 @@ public:
     void CreateBuffers();
     /// Fills the buffers, with the list at its beginning.
     void Paint(Stage& stage);
-    /// Writes what never moves on the panel.
+    /// Draws the texts of the panel that do not move.
     void PaintHeader(unsigned int buffer);
 
     /// Moves the list up by some pixels, at most to the next whole row.
@@ -31,13 +31,13 @@ private:
     Canvas& canvas;
     Typesetter& typesetter;
     const Layout& layout;
-    int first;           // channel of the topmost row
-    int offset;          // pixels that the list has moved since a row was topmost
-    unsigned int rows;   // the list as it is seen, without the highlight
-    unsigned int coming; // the row that comes in from below
-    unsigned int pill;   // the empty highlight
-    unsigned int chosen; // the highlight with its row's text
-    unsigned int thumb;  // the scrollbar's handle
+    int first = 0;                      // channel of the topmost row
+    int offset = 0;                     // pixels that the list has moved since a row was topmost
+    unsigned int rows = ZO_NO_HANDLE;   // the visible list without the highlight
+    unsigned int coming = ZO_NO_HANDLE; // the row that comes in from below
+    unsigned int pill = ZO_NO_HANDLE;   // the empty highlight
+    unsigned int chosen = ZO_NO_HANDLE; // the highlight with its row's text
+    unsigned int thumb = ZO_NO_HANDLE;  // the scrollbar's handle
 };
 
 #endif

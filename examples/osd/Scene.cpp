@@ -2,6 +2,7 @@
 
 #include "Palette.h"
 
+#include <cstdio>
 #include <utility>
 
 namespace {
@@ -82,7 +83,7 @@ void Scene::PaintPanels(Stage& stage) {
     stage.Paint(pictures.volume, layout.volumeIcon);
 }
 
-// With the round end of the part that is done, which the frames then lengthen.
+// Includes the round start of the part that is done, which each frame then lengthens.
 void Scene::PaintProgressTrack(Stage& stage) {
     const Rect& bar = layout.progress;
     stage.FillRounded(bar, bar.height / 2, Palette::track);
@@ -134,14 +135,11 @@ void Scene::DrawFrame(double minutes) {
 
 void Scene::DrawClock(double minutes) {
     const int now = startMinute + static_cast<int>(minutes);
-    const int digits[] = {now / 600 % 10, now / 60 % 10, now % 60 / 10, now % 10};
-    std::u16string text = u"00:00";
-    const size_t places[] = {0, 1, 3, 4};
-    for (int i = 0; i < 4; ++i) {
-        text[places[i]] = static_cast<char16_t>(u'0' + digits[i]);
-    }
+    char text[8];
+    snprintf(text, sizeof(text), "%02d:%02d", now / 60 % 24, now % 60);
     const Type type{layout.standardText, Palette::text};
-    typesetter.Write(frame, text, type, layout.bannerRight, layout.bannerLine[0], Align::Right);
+    typesetter.Write(frame, Widen(text), type, layout.bannerRight, layout.bannerLine[0],
+                     Align::Right);
 }
 
 void Scene::DrawProgress(double minutes) {

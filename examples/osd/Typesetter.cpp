@@ -4,8 +4,8 @@
 
 namespace {
 
-// The size that the library calls standard: drawn from glyphs kept ready, at the size that the font
-// was loaded at.
+// The library draws plain text of this size at the size that the font was loaded at, from glyphs that
+// are ready.
 constexpr unsigned int standardFontSize = 40;
 
 // Shares of the text size that suit most faces.
@@ -16,8 +16,8 @@ constexpr double capitalHeight = 0.73;
 
 Typesetter::Typesetter(Canvas& target, int pixels) : canvas(target), standardPixels(pixels) {}
 
-// Plain text of the loaded size takes the fast road. Any other text of the size 40 must not: where
-// the font was loaded at another size, it would come out at that one.
+// Plain text of the loaded size is asked for by the standard size, which is the fastest. If 40 pixels
+// are wanted and the font was loaded at another size, the nearest size that is rendered is 41.
 TextStyle Typesetter::ToStyle(const Type& type) const {
     const bool isPlain = !type.bold && !type.italic;
     if (isPlain && type.pixels == standardPixels) {
@@ -30,13 +30,13 @@ TextStyle Typesetter::ToStyle(const Type& type) const {
     return {type.color, size, type.bold, type.italic};
 }
 
-// The library measures at the loaded size, so other sizes are a matter of proportion.
+// The library measures at the loaded size; other sizes are in proportion.
 int Typesetter::MeasureWord(std::u16string_view word, const Type& type) {
     const double width = canvas.MeasureText(word);
     return Round(width * type.pixels / standardPixels);
 }
 
-// Spaces take no room when drawn, so every word is drawn on its own and the pen moved between them.
+// A space that is drawn has no width, so each word has its place.
 Line Typesetter::Arrange(std::u16string_view text, const Type& type) {
     const int space = Round(type.pixels * spaceWidth);
     Line line{{}, 0};

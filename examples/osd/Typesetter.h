@@ -4,16 +4,22 @@
 
 #include "Canvas.h"
 
+#include <string>
 #include <string_view>
 #include <vector>
 
-/// How a text shall look, in window pixels.
+/// The look of a text, in window pixels.
 struct Type {
     int pixels;
     Color color;
     bool bold = false;
     bool italic = false;
 };
+
+/// Only for ASCII.
+inline std::u16string Widen(const std::string& text) {
+    return {text.begin(), text.end()};
+}
 
 enum class Align { Left, Centre, Right };
 
