@@ -1,6 +1,6 @@
 // The table of buffers: the handle, the size and a live miniature of each.
 
-import { Emitter, find, make } from './dom.js';
+import { Emitter, find, make, makeRow } from './dom.js';
 import { formatHandle, mostBuffers, windowHandle } from './targets.js';
 
 const pauseBetweenMiniatures = 100; // milliseconds; one is drawn at a time
@@ -20,7 +20,7 @@ export class BuffersTable extends Emitter {
         super();
         this.engine = engine;
         this.nameOf = nameOf;
-        this.body = find('buffer-rows', HTMLElement);
+        this.table = find('buffer-table', HTMLElement);
         engine.on('targets', () => this.#fill());
         engine.on('binding', () => this.#fill());
         setInterval(() => this.#drawNext(), pauseBetweenMiniatures);
@@ -36,7 +36,10 @@ export class BuffersTable extends Emitter {
         this.#miniatures = new Map(
             handles.map((handle) => [handle, known.get(handle) ?? this.#makeMiniature(handle)]),
         );
-        this.body.replaceChildren(...handles.map((handle) => this.#makeRow(handle)));
+        this.table.replaceChildren(
+            makeRow(['Handle', 'Size', 'Contents', ''], 'th'),
+            ...handles.map((handle) => this.#makeRow(handle)),
+        );
         handles.filter((handle) => !known.has(handle)).forEach((handle) => this.draw(handle));
     }
 
@@ -48,15 +51,14 @@ export class BuffersTable extends Emitter {
     /** @param {number} handle */
     #makeRow(handle) {
         const { width, height } = this.engine.targets.get(handle) ?? {};
+        const buttons = ['View', 'Destroy'].map((label) => this.#makeButton(label, handle));
         const name = make('small', {}, this.nameOf(handle));
-        return make(
-            'tr',
-            {},
-            make('th', { scope: 'row' }, make('code', {}, formatHandle(handle)), name),
-            make('td', {}, `${width} × ${height}`),
-            make('td', {}, this.#miniatures.get(handle) ?? ''),
-            make('td', {}, this.#makeButton('View', handle), this.#makeButton('Destroy', handle)),
-        );
+        return makeRow([
+            make('div', {}, make('code', {}, formatHandle(handle)), name),
+            `${width} × ${height}`,
+            this.#miniatures.get(handle) ?? '',
+            make('div', { class: 'bar' }, ...buttons),
+        ]);
     }
 
     /**
@@ -72,7 +74,7 @@ export class BuffersTable extends Emitter {
 
     #drawNext() {
         const handles = [...this.#miniatures.keys()];
-        const bounds = this.body.getBoundingClientRect();
+        const bounds = this.table.getBoundingClientRect();
         const isSeen = bounds.bottom > 0 && bounds.top < innerHeight && !document.hidden;
         if (handles.length > 0 && isSeen) {
             this.#next = (this.#next + 1) % handles.length;

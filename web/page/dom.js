@@ -21,6 +21,16 @@ export function make(name, properties = {}, ...children) {
 }
 
 /**
+ * A row of a table.
+ *
+ * @param {(Node | string)[]} cells the first is a heading
+ * @param {'td' | 'th'} [name] of the other cells
+ */
+export function makeRow(cells, name = 'td') {
+    return make('tr', {}, ...cells.map((cell, i) => make(i === 0 ? 'th' : name, {}, cell)));
+}
+
+/**
  * The page's element of that id.
  *
  * @template {HTMLElement} Type

@@ -4,7 +4,7 @@
 import { make } from './dom.js';
 import { formatHandle, noHandle, windowHandle } from './targets.js';
 
-/** @typedef {import('./operations.js').Field} Field */
+/** @typedef {import('./operations.js').Field & { name: string }} NamedField */
 
 /**
  * @typedef {object} Widget
@@ -34,21 +34,19 @@ const makeNumber = (value, max = mostUnsigned) =>
     make('input', { type: 'number', min: 0, max, required: true, value, inputMode: 'numeric' });
 
 /**
- * @param {string} name
- * @param {Field} field
+ * @param {NamedField} field
  * @param {HTMLElement} control
  */
-const makeRow = (name, { hint = '' }, control) =>
+const makeRow = ({ name, hint = '' }, control) =>
     make('label', { class: 'row' }, make('code', {}, name), control, make('small', {}, hint));
 
 /**
- * @param {string} name
- * @param {Field} field
+ * @param {NamedField} field
  * @param {HTMLInputElement} input
  * @param {'value' | 'valueAsNumber' | 'checked'} [property]
  */
-const makeInput = (name, field, input, property = 'value') => ({
-    element: makeRow(name, field, input),
+const makeInput = (field, input, property = 'value') => ({
+    element: makeRow(field, input),
     input,
     read: () => input[property],
     write: (/** @type {any} */ value) => Object.assign(input, { [property]: value }),
@@ -57,11 +55,10 @@ const makeInput = (name, field, input, property = 'value') => ({
 /**
  * A group of numbers, with zeros for those of a rectangle that it has no fields for.
  *
- * @param {string} name
- * @param {Field} field
+ * @param {NamedField} field
  * @param {number} [most]
  */
-function makeNumbers(name, { value, hint = '' }, most) {
+function makeNumbers({ name, value, hint = '' }, most) {
     const inputs = Object.entries(value).map(([key, start]) => ({
         key,
         input: makeNumber(/** @type {number} */ (start), most),
@@ -81,12 +78,11 @@ function makeNumbers(name, { value, hint = '' }, most) {
 }
 
 /**
- * @param {string} name
- * @param {Field} field
+ * @param {NamedField} field
  * @param {(chosen: string) => [string | number, string][]} options values and labels
  * @param {(value: string) => any} parse
  */
-function makeSelect(name, field, options, parse) {
+function makeSelect(field, options, parse) {
     const select = make('select');
     const write = (/** @type {any} */ chosen) => {
         select.replaceChildren(
@@ -97,7 +93,7 @@ function makeSelect(name, field, options, parse) {
     };
     write(field.value);
     return {
-        element: makeRow(name, field, select),
+        element: makeRow(field, select),
         read: () => parse(select.value),
         write,
         refresh: () => write(select.value),
@@ -105,12 +101,11 @@ function makeSelect(name, field, options, parse) {
 }
 
 /**
- * @param {string} name
- * @param {Field} field
+ * @param {NamedField} field
  */
-function makeColor(name, field) {
-    const numbers = makeNumbers(name, field, 255);
-    const picker = make('input', { type: 'color', 'aria-label': `${name}, picked` });
+function makeColor(field) {
+    const numbers = makeNumbers(field, 255);
+    const picker = make('input', { type: 'color', 'aria-label': `${field.name}, picked` });
     const show = () => {
         if (numbers.element.matches(':invalid')) {
             return; // the picker has no such colour
@@ -140,27 +135,24 @@ function makeColor(name, field) {
 }
 
 /**
- * @param {string} name
- * @param {Field} field
+ * @param {NamedField} field
  */
-function makeFlags(name, { value }) {
-    const inputs = ['TEXT', 'BLIT', 'BITMAP', 'RECT', 'FRAME', 'FBO'].map((component, i) => ({
-        input: make('input', { type: 'checkbox', checked: Boolean(value & (1 << i)) }),
-        label: `ZO_COMPONENT_${component}`,
-    }));
-    const boxes = inputs.map(({ input, label }) =>
-        make('label', {}, input, make('code', {}, label)),
+function makeFlags({ name, value }) {
+    const names = ['TEXT', 'BLIT', 'BITMAP', 'RECT', 'FRAME', 'FBO'];
+    const inputs = names.map(() => make('input', { type: 'checkbox' }));
+    const element = make(
+        'fieldset',
+        {},
+        make('legend', {}, make('code', {}, `${name} ZO_COMPONENT_`)),
+        ...names.map((component, i) => make('label', {}, inputs[i], make('code', {}, component))),
     );
+    const write = (/** @type {number} */ flags) =>
+        inputs.forEach((input, i) => (input.checked = Boolean(flags & (1 << i))));
+    write(value);
     return {
-        element: make(
-            'fieldset',
-            { class: 'flags' },
-            make('legend', {}, make('code', {}, name)),
-            ...boxes,
-        ),
-        read: () => inputs.reduce((sum, { input }, i) => sum | (Number(input.checked) << i), 0),
-        write: (/** @type {number} */ flags) =>
-            inputs.forEach(({ input }, i) => (input.checked = Boolean(flags & (1 << i)))),
+        element,
+        read: () => inputs.reduce((sum, input, i) => sum | (Number(input.checked) << i), 0),
+        write,
     };
 }
 
@@ -189,62 +181,43 @@ function listHandles(targets, chosen) {
  */
 const listPicture = ([name, { width, height }]) => [name, `${name}, ${width} × ${height}`];
 
+/** @type {Record<NamedField['kind'], (field: NamedField, choices: Choices) => Widget>} */
+const makers = {
+    number: (field) => makeInput(field, makeNumber(field.value), 'valueAsNumber'),
+    format: (field) => makeInput(field, makeNumber(field.value, 0x7fffffff), 'valueAsNumber'),
+    text: (field) => makeInput(field, make('input', { value: field.value })),
+    check: (field) => makeInput(field, make('input', { type: 'checkbox' }), 'checked'),
+    rect: (field) => makeNumbers(field),
+    pen: (field) => {
+        const pen = makeNumbers(field);
+        return { ...pen, read: () => ({ ...pen.read(), width: 0, height: 0 }) };
+    },
+    color: makeColor,
+    flags: makeFlags,
+    handle: (field, { targets }) =>
+        makeSelect(field, (chosen) => listHandles(targets(), chosen), Number),
+    font: (field, { fonts }) =>
+        makeSelect(
+            field,
+            () => [...fonts(), '/fonts/missing.ttf'].map((path) => [path, path]),
+            String,
+        ),
+    picture: (field, { pictures }) =>
+        makeSelect(
+            field,
+            () => [...[...pictures()].map(listPicture), ['', 'nullptr']],
+            (name) => new Uint8Array(pictures().get(name)?.data.buffer ?? []),
+        ),
+    window: (field) =>
+        makeSelect(
+            field,
+            () => Object.entries({ 1: 'the canvas of this page', '': 'nullptr' }),
+            Boolean,
+        ),
+};
+
 /**
- * @param {string} name
- * @param {Field} field
+ * @param {NamedField} field
  * @param {Choices} choices
- * @returns {Widget}
  */
-export function makeField(name, field, choices) {
-    switch (field.kind) {
-        case 'number':
-            return makeInput(name, field, makeNumber(field.value), 'valueAsNumber');
-        case 'format':
-            return makeInput(name, field, makeNumber(field.value, 0x7fffffff), 'valueAsNumber');
-        case 'text':
-            return makeInput(name, field, make('input', { value: field.value }));
-        case 'check':
-            return makeInput(name, field, make('input', { type: 'checkbox' }), 'checked');
-        case 'rect':
-            return makeNumbers(name, field);
-        case 'pen': {
-            const pen = makeNumbers(name, field);
-            return { ...pen, read: () => ({ ...pen.read(), width: 0, height: 0 }) };
-        }
-        case 'color':
-            return makeColor(name, field);
-        case 'flags':
-            return makeFlags(name, field);
-        case 'handle':
-            return makeSelect(
-                name,
-                field,
-                (chosen) => listHandles(choices.targets(), chosen),
-                Number,
-            );
-        case 'font':
-            return makeSelect(
-                name,
-                field,
-                () => [...choices.fonts(), '/fonts/missing.ttf'].map((path) => [path, path]),
-                String,
-            );
-        case 'picture':
-            return makeSelect(
-                name,
-                field,
-                () => [...[...choices.pictures()].map(listPicture), ['', 'nullptr']],
-                (key) => new Uint8Array(choices.pictures().get(key)?.data.buffer ?? []),
-            );
-        case 'window':
-            return makeSelect(
-                name,
-                field,
-                () => [
-                    [1, 'the canvas of this page'],
-                    ['', 'nullptr'],
-                ],
-                Boolean,
-            );
-    }
-}
+export const makeField = (field, choices) => makers[field.kind](field, choices);

@@ -25,7 +25,7 @@ export class Form extends Emitter {
         this.operation = operations[name];
         this.choices = choices;
         this.widgets = Object.entries(this.operation.fields).map(([key, field]) => {
-            const widget = makeField(key, field, choices);
+            const widget = makeField({ name: key, ...field }, choices);
             widget.element.dataset.field = key;
             return { key, ...widget };
         });

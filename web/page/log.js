@@ -19,13 +19,12 @@ export function parseLine(line) {
  * @param {number} count how often it came in a row
  */
 export function makeLine({ priority, tag, text }, count = 1) {
+    const times = count > 1 ? ` ×${count}` : '';
     return make(
-        'div',
+        'code',
         { class: `line priority-${priority}` },
         make('b', {}, priority),
-        make('span', { class: 'tag' }, tag),
-        make('span', {}, text),
-        make('span', {}, count > 1 ? `×${count}` : ''),
+        ` ${tag}: ${text}${times}`,
     );
 }
 

@@ -1,6 +1,6 @@
 // The channels of the pixel under the pointer, in the buffer and on the window.
 
-import { find, make, throttle } from './dom.js';
+import { find, make, makeRow, throttle } from './dom.js';
 import { formatHandle, windowHandle } from './targets.js';
 
 /** @typedef {import('./libzogles.mjs').Rect} Rect */
@@ -8,6 +8,7 @@ import { formatHandle, windowHandle } from './targets.js';
 
 const reach = 7; // pixels shown on each side of the one under the pointer
 const side = 2 * reach + 1;
+const scale = 8;
 const pauseBetweenLooks = 100; // milliseconds; the browser waits for the GPU to read pixels
 
 /**
@@ -33,12 +34,17 @@ export class Magnifier {
     constructor(engine, stage) {
         this.engine = engine;
         this.stage = stage;
-        this.rows = find('pixel-values', HTMLElement);
+        this.table = find('pixel-table', HTMLElement);
         this.x = find('pixel-x', HTMLInputElement);
         this.y = find('pixel-y', HTMLInputElement);
         const lens = find('lens', HTMLCanvasElement);
+        Object.assign(lens, { width: side * scale, height: side * scale });
         this.lens = /** @type {CanvasRenderingContext2D} */ (lens.getContext('2d'));
-        Object.assign(lens, { width: side, height: side });
+        Object.assign(this.lens, {
+            imageSmoothingEnabled: false,
+            strokeStyle: '#ffb020',
+            lineWidth: 2,
+        });
 
         const showLater = throttle(() => this.#show(), pauseBetweenLooks);
         const point = (/** @type {{ x: number, y: number }} */ { x, y }) => {
@@ -72,7 +78,8 @@ export class Magnifier {
             return;
         }
         const [buffer, onWindow] = this.#findPair();
-        this.rows.replaceChildren(
+        this.table.replaceChildren(
+            makeRow(['', 'Target', 'Pixel', 'r', 'g', 'b', 'a'], 'th'),
             this.#makeRow('buffer', buffer),
             this.#makeRow('window', onWindow),
         );
@@ -107,8 +114,7 @@ export class Magnifier {
     #makeRow(where, pixel) {
         const place = pixel ? [formatHandle(pixel.handle), `${pixel.x}, ${pixel.y}`] : ['—', '—'];
         const channels = (pixel && this.#read(pixel)) ?? ['—', '—', '—', '—'];
-        const cells = [...place, ...channels].map((text) => make('td', {}, `${text}`));
-        return make('tr', {}, make('th', { scope: 'row' }, where), ...cells);
+        return makeRow([where, ...place, ...channels.map(String)]);
     }
 
     /**
@@ -130,6 +136,11 @@ export class Magnifier {
         for (let i = 3; handle === windowHandle && i < picture.data.length; i += 4) {
             picture.data[i] = 255;
         }
-        this.lens.putImageData(picture, 0, 0);
+        const pixels = make('canvas', { width: side, height: side });
+        pixels.getContext('2d')?.putImageData(picture, 0, 0);
+        const size = side * scale;
+        this.lens.clearRect(0, 0, size, size);
+        this.lens.drawImage(pixels, 0, 0, size, size);
+        this.lens.strokeRect(reach * scale, reach * scale, scale, scale);
     }
 }

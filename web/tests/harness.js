@@ -146,8 +146,8 @@ export class Playground {
         await this.page.locator('#pixel-x').fill(`${x}`);
         await this.page.locator('#pixel-y').fill(`${y}`);
         await this.page.waitForTimeout(200); // the values follow at most every 100 ms
-        return this.page.locator('#pixel-values').evaluate((body) =>
-            [...body.children].map((row) => {
+        return this.page.locator('#pixel-table').evaluate((table) =>
+            [...table.children].slice(1).map((row) => {
                 const cells = [...row.children].map((cell) => cell.textContent);
                 return cells.slice(-4).join(' ');
             }),

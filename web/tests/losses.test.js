@@ -80,14 +80,14 @@ test('losses while something else happens', async () => {
     await page.getByText('The scene has stopped').waitFor();
     await playground.press('Play', 'Pause');
     await playground.waitForBuffers('10 of 15');
-    assert.match(await page.locator('#buffer-rows').innerText(), /scene: frame/);
+    assert.match(await page.locator('#buffer-table').innerText(), /scene: frame/);
     // The scene does not draw into a visitor's buffer that has got one of its handles.
     await playground.press('Destroy 0x10005');
     await page.getByText('The scene has stopped').waitFor();
     await playground.run('ZoCreateGLFBO', {}, /handle 0x10005/);
     await playground.press('Play', 'Pause');
     await playground.waitForBuffers('11 of 15');
-    const row = page.locator('#buffer-rows tr', { hasText: '0x10005' });
+    const row = page.locator('#buffer-table tr', { hasText: '0x10005' });
     assert.match(await row.innerText(), /yours/);
     await playground.press('Destroy 0x10005');
 });
