@@ -1,27 +1,18 @@
-// What a browser's EGL and GL lack: calls without a current context, the end of a context, and pictures
-// without a pixel.
+// Corrects Emscripten's EGL and GL: calls without a current context, destroyed contexts, and images without
+// pixels.
 //
-// Elsewhere a call without a context is ignored, and the objects of a context go with it. Emscripten's
-// calls reach for the current context without asking whether there is one, and its table of names keeps
-// objects for good, whose context the browser then cannot let go of either.
+// On other platforms a call without a context has no effect, and destroying a context destroys its objects.
+// Emscripten's calls use the current context without a check, and its tables keep the objects for ever, so
+// that the browser cannot free their context either.
 mergeInto(LibraryManager.library, {
     $Contexts__deps: ['$GL'],
     $Contexts__postset: 'Contexts.install();',
     $Contexts: {
-        // Stands where no context is current: creates nothing, knows nothing, does nothing.
+        // The current context while there is none: every call returns null.
         none: null,
 
         install: function () {
-            Contexts.none = new Proxy(
-                {},
-                {
-                    get: function () {
-                        return function () {
-                            return null;
-                        };
-                    },
-                },
-            );
+            Contexts.none = new Proxy({}, { get: () => () => null });
             var makeCurrent = GL.makeContextCurrent;
             GL.makeContextCurrent = function (handle) {
                 var isDone = makeCurrent(handle);
@@ -37,7 +28,7 @@ mergeInto(LibraryManager.library, {
                 }
                 deleteContext(handle);
             };
-            // A canvas gives the context that it has also while the browser has taken it away.
+            // A canvas returns its context even if it is lost.
             GL.createContext = function (canvas, attributes) {
                 var handle = createContext(canvas, attributes);
                 if (handle && GL.contexts[handle].GLctx.isContextLost()) {
@@ -64,11 +55,11 @@ mergeInto(LibraryManager.library, {
             remove(GL.buffers, gl.deleteBuffer);
             remove(GL.programs, gl.deleteProgram);
             remove(GL.shaders, gl.deleteShader);
-            remove(context.tempIndexBuffers, gl.deleteBuffer); // where client memory's indices went
+            remove(context.tempIndexBuffers, gl.deleteBuffer); // hold indices from client memory
         },
     },
 
-    // Emscripten hands out a name even where nothing was created.
+    // Emscripten returns a name even if nothing was created.
     glCreateShader__deps: ['$GL', '$Contexts'],
     glCreateShader: function (type) {
         var shader = GLctx.createShader(type);
@@ -86,7 +77,7 @@ mergeInto(LibraryManager.library, {
         if (!program) {
             return 0;
         }
-        // What Emscripten's other calls expect of a program.
+        // Emscripten's other calls expect these.
         program.name = GL.getNewId(GL.programs);
         program.maxUniformLength =
             program.maxAttributeLength =
@@ -97,7 +88,7 @@ mergeInto(LibraryManager.library, {
         return program.name;
     },
 
-    // A blank glyph has no pixels and no memory for them, which WebGL takes for a mistake.
+    // A blank glyph has no pixels; WebGL rejects a null pointer for them.
     glTexSubImage2D__deps: ['$emscriptenWebGLGetTexPixelData'],
     glTexSubImage2D: function (target, level, x, y, width, height, format, type, pixels) {
         if (width !== 0 && height !== 0) {

@@ -59,15 +59,11 @@ export function writeCpp({ fields, record, call, cppResult = '' }, values, { tar
         if (!handles.has(handle)) {
             const name = handles.size === 2 ? 'buffer' : 'otherBuffer';
             const target = targets().find((known) => known.handle === handle);
+            const size = `${target?.width}, ${target?.height}`;
+            const create = `surface.ZoCreateGLFBO(&${name}, ${size}, ZO_FORMAT_RGBA8888);`;
             handles.set(handle, name);
-            lines.push(
-                ...(target
-                    ? [
-                          `unsigned int ${name} = ZO_NO_HANDLE;`,
-                          `surface.ZoCreateGLFBO(&${name}, ${target.width}, ${target.height}, ZO_FORMAT_RGBA8888);`,
-                      ]
-                    : [`const unsigned int ${name} = ${formatHandle(handle)}; // of no buffer`]),
-            );
+            lines.push(`unsigned int ${name} = ${target ? 'ZO_NO_HANDLE' : formatHandle(handle)};`);
+            lines.push(target ? create : '// No buffer has this handle.');
         }
         return handles.get(handle);
     };
