@@ -1,7 +1,7 @@
 // The library at work: its module, one surface on one canvas, and the losses of both. Of the page it
 // knows only where the canvas goes.
 
-import { Emitter } from './dom.js';
+import { Emitter, make } from './dom.js';
 import createLibrary from './libzogles.mjs';
 import { parseLine } from './log.js';
 import { findTarget, mostBuffers, readPixels, windowHandle } from './targets.js';
@@ -15,10 +15,8 @@ export const windowSize = { width: 1280, height: 720 };
 // The library requests a plain context. The page requests one first, so that the window keeps its pixels
 // after they were shown; otherwise they are undefined then.
 function createCanvas() {
-    const canvas = document.createElement('canvas');
-    Object.assign(canvas, windowSize);
-    canvas.setAttribute('role', 'img');
-    canvas.setAttribute('aria-label', 'The window that the library draws on');
+    const label = 'The window that the library draws on';
+    const canvas = make('canvas', { ...windowSize, role: 'img', 'aria-label': label });
     const context = canvas.getContext('webgl', {
         alpha: true,
         antialias: false,

@@ -70,15 +70,13 @@ export class Files extends Emitter {
             this.#take([...(input.files ?? [])]);
             input.value = '';
         });
-        const { classList } = document.documentElement;
-        document.addEventListener('dragover', (event) => {
-            event.preventDefault();
-            classList.add('dropping');
-        });
-        document.addEventListener('dragleave', () => classList.remove('dropping'));
+        for (const type of /** @type {const} */ (['dragover', 'dragleave', 'drop'])) {
+            document.addEventListener(type, (event) => {
+                event.preventDefault();
+                document.documentElement.classList.toggle('dropping', type === 'dragover');
+            });
+        }
         document.addEventListener('drop', (event) => {
-            event.preventDefault();
-            classList.remove('dropping');
             this.#take([...(event.dataTransfer?.files ?? [])]);
         });
     }
