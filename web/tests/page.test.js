@@ -52,6 +52,11 @@ test('the scene plays, and pauses for what is drawn on the window', async () => 
     await playground.run('ZoDisplayBitmap');
     await page.getByText('The scene is paused').waitFor();
     assert.equal(await isMoving(), false);
+    // What stands behind the window shows through.
+    await page.locator('#behind').selectOption('checks');
+    const { data } = PNG.sync.read(await page.locator('#viewport').screenshot());
+    assert.ok(data.includes(Buffer.from([0x8c, 0x8f, 0x9f, 0xff])));
+    await page.locator('#behind').selectOption('black');
 });
 
 for (const [size, viewport] of Object.entries({ wide, phone })) {
