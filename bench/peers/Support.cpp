@@ -48,38 +48,6 @@ void Require(bool isFine, const char* what) {
     }
 }
 
-void OpenContext() {
-    const EGLDisplay display = eglGetDisplay(EGL_DEFAULT_DISPLAY);
-    Require(eglInitialize(display, nullptr, nullptr) == EGL_TRUE, "eglInitialize");
-    const EGLint wanted[] = {EGL_RENDERABLE_TYPE, EGL_OPENGL_ES2_BIT, EGL_ALPHA_SIZE, 8, EGL_NONE};
-    EGLConfig config = nullptr;
-    EGLint count = 0;
-    eglChooseConfig(display, wanted, &config, 1, &count);
-    Require(count == 1, "eglChooseConfig");
-    const EGLint version[] = {EGL_CONTEXT_CLIENT_VERSION, 2, EGL_NONE};
-    const EGLContext context = eglCreateContext(display, config, EGL_NO_CONTEXT, version);
-    const EGLSurface surface = eglCreateWindowSurface(
-        display, config, reinterpret_cast<EGLNativeWindowType>(OpenWindow()), nullptr);
-    Require(eglMakeCurrent(display, surface, surface, context) == EGL_TRUE, "eglMakeCurrent");
-    TurnOffVsync();
-}
-
-void SwapContext() {
-    eglSwapBuffers(eglGetCurrentDisplay(), eglGetCurrentSurface(EGL_DRAW));
-}
-
-unsigned int MakeTexture(unsigned int width, unsigned int height) {
-    GLuint texture = 0;
-    glGenTextures(1, &texture);
-    glBindTexture(GL_TEXTURE_2D, texture);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, static_cast<GLsizei>(width),
-                 static_cast<GLsizei>(height), 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
-    return texture;
-}
-
 void TurnOffVsync() {
     Require(eglSwapInterval(eglGetCurrentDisplay(), 0) == EGL_TRUE, "eglSwapInterval");
 }

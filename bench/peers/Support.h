@@ -1,5 +1,5 @@
 /// @file
-/// What the contestants share besides the frame: context, timing and picture.
+/// What the contestants share besides the frame: timing and picture.
 #ifndef ZOGLES_BENCH_PEERS_SUPPORT_H
 #define ZOGLES_BENCH_PEERS_SUPPORT_H
 
@@ -9,13 +9,6 @@
 
 /// Ends the program with a message unless `isFine`.
 void Require(bool isFine, const char* what);
-
-/// Makes an OpenGL ES 2.0 context current on a window of the frame's size, by plain EGL.
-void OpenContext();
-void SwapContext();
-
-/// Makes an RGBA texture in the current context, without defined content, and leaves it bound.
-unsigned int MakeTexture(unsigned int width, unsigned int height);
 
 /// By default, swapping waits for the display if the driver can; the benchmark must not wait.
 void TurnOffVsync();

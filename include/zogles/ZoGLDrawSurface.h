@@ -48,7 +48,7 @@ struct tagTextInfo;
 
 /// The result codes. Every failure is also written to the platform log.
 enum ZoResult : int {
-    ZO_SUCCESS = 0,             ///< success
+    ZO_SUCCESS = 0,             ///< the operation succeeded
     ZO_NO_DISPLAY = 1,          ///< EGL has no display
     ZO_DISPLAY_INIT_FAILED = 2, ///< the EGL display could not be initialised
     ZO_NO_CONFIG = 3,           ///< EGL could not choose a configuration
