@@ -45,8 +45,8 @@
     extern "C" Return name parameters {                                                            \
         INTERPOSE(name, arguments);                                                                \
         harness::RemoveLive(kind, object);                                                         \
-        const Return result = real arguments;                                                      \
-        return isFailing ? Return(failure) : result;                                               \
+        using Result = Return;                                                                     \
+        return isFailing ? (real arguments, Result(failure)) : real arguments;                     \
     }
 
 #endif

@@ -106,27 +106,17 @@ extern "C" void glGetIntegerv(GLenum name, GLint* value) {
         real(count, objects);                                                                      \
         harness::AddLive(kind, *objects);                                                          \
     }
-#define DELETE_GENERATED(name, kind)                                                               \
-    extern "C" void name(GLsizei count, const GLuint* objects) {                                   \
-        INTERPOSE(name, (count, objects));                                                         \
-        harness::RemoveLive(kind, *objects);                                                       \
-        real(count, objects);                                                                      \
-    }
 GENERATE(glGenTextures, "texture")
 GENERATE(glGenBuffers, "buffer")
 GENERATE(glGenFramebuffers, "framebuffer")
-DELETE_GENERATED(glDeleteTextures, "texture")
-DELETE_GENERATED(glDeleteBuffers, "buffer")
-DELETE_GENERATED(glDeleteFramebuffers, "framebuffer")
+END_LIFE(void, glDeleteTextures, "texture", *objects, , (GLsizei count, const GLuint* objects),
+         (count, objects))
+END_LIFE(void, glDeleteBuffers, "buffer", *objects, , (GLsizei count, const GLuint* objects),
+         (count, objects))
+END_LIFE(void, glDeleteFramebuffers, "framebuffer", *objects, ,
+         (GLsizei count, const GLuint* objects), (count, objects))
 
 BEGIN_LIFE(GLuint, glCreateShader, "shader", (GLenum type), (type))
 BEGIN_LIFE(GLuint, glCreateProgram, "program", (), ())
-
-#define DELETE_CREATED(name, kind)                                                                 \
-    extern "C" void name(GLuint object) {                                                          \
-        INTERPOSE(name, (object));                                                                 \
-        harness::RemoveLive(kind, object);                                                         \
-        real(object);                                                                              \
-    }
-DELETE_CREATED(glDeleteShader, "shader")
-DELETE_CREATED(glDeleteProgram, "program")
+END_LIFE(void, glDeleteShader, "shader", shader, , (GLuint shader), (shader))
+END_LIFE(void, glDeleteProgram, "program", program, , (GLuint program), (program))

@@ -96,7 +96,8 @@ void TextFixture::Load(const char* path, unsigned int size) {
     harness::TakeLog();
 }
 
-tagZoTextInfo TextFixture::Request(std::u16string_view text, const Style& style) const {
+int TextFixture::Draw(std::u16string_view text, const Style& style, unsigned int x,
+                      unsigned int y) {
     tagZoTextInfo info = {};
     info.text = text.data();
     info.length = static_cast<unsigned int>(text.size());
@@ -104,12 +105,6 @@ tagZoTextInfo TextFixture::Request(std::u16string_view text, const Style& style)
     info.fontSize = style.size;
     info.bold = style.isBold ? 1 : 0;
     info.italic = style.isItalic ? 1 : 0;
-    return info;
-}
-
-int TextFixture::Draw(std::u16string_view text, const Style& style, unsigned int x,
-                      unsigned int y) {
-    const tagZoTextInfo info = Request(text, style);
     const tagZoRectInfo rect = {x, y, 1, 1};
     return surface->ZoDrawText(buffer, &info, &rect);
 }

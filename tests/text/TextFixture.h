@@ -30,7 +30,6 @@ protected:
     /// Loads a font and drops the log of it.
     void Load(const char* path = sansPath, unsigned int size = 40);
 
-    tagZoTextInfo Request(std::u16string_view text, const Style& style = {}) const;
     int Draw(std::u16string_view text, const Style& style = {}, unsigned int x = 10,
              unsigned int y = 60);
 
