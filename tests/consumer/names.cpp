@@ -31,24 +31,11 @@ public:
     USED unsigned int GetFontTexture() const { return Stop(); }
 };
 
-class ShaderProgram {
-public:
-    unsigned int CreateProgram(const char*, const char*) const;
-    USED int GetAttribLocation(unsigned int, const char*) const { return Stop() != 0; }
-};
-
 class FBOManager {
 public:
     FBOManager(int, int);
     ~FBOManager();
     USED bool GetFBOInst(unsigned int, tagFrameBuffObject*) const { return Stop() != 0; }
-};
-
-class GlyphMap {
-public:
-    void operator[](unsigned long);
-    USED void ReadUnits() const { Stop(); }
-    USED void Detach() { Stop(); }
 };
 
 FontAtlas::FontAtlas() {
@@ -59,10 +46,6 @@ FontAtlas::~FontAtlas() {
     Stop();
 }
 
-unsigned int ShaderProgram::CreateProgram(const char*, const char*) const {
-    return Stop();
-}
-
 FBOManager::FBOManager(int, int) {
     Stop();
 }
@@ -71,12 +54,7 @@ FBOManager::~FBOManager() {
     Stop();
 }
 
-void GlyphMap::operator[](unsigned long) {
-    Stop();
-}
-
 void MakeOwnObjects() {
     std::make_shared<FontAtlas>();
     std::make_unique<FBOManager>(1, 1);
-    std::make_shared<GlyphMap>();
 }

@@ -3,8 +3,7 @@
 #ifndef ZOGLES_TESTS_FAILURES_FAILUREROWS_H
 #define ZOGLES_TESTS_FAILURES_FAILUREROWS_H
 
-#include "support/FakeFont.h"
-#include "surface/LifecycleFixture.h"
+#include "support/LifecycleFixture.h"
 
 class ConditionGLTest;
 using Step = std::function<void(ConditionGLTest&)>;

@@ -4,11 +4,8 @@
 #include "support/Calls.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
-
-using Floats = std::vector<float>;
 
 const Image image = Noise(3, 5);
 constexpr tagZoRectInfo rect = {16, 8, 32, 16};
@@ -32,13 +29,6 @@ Calls RecordWithNewTextureNamed(const std::function<void()>& run) {
         std::replace(calls.begin(), calls.end(), std::string(*bound), std::string(bindNew));
     }
     return calls;
-}
-
-Floats Vertices() {
-    const std::vector<unsigned char>& bytes = harness::Current().bufferData;
-    Floats vertices(bytes.size() / sizeof(float));
-    memcpy(vertices.data(), bytes.data(), bytes.size());
-    return vertices;
 }
 
 class OSDCallsGLTest : public OSDFixture {};
@@ -84,7 +74,7 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
         const char* name;
         std::function<void()> run;
         Calls calls;
-        Floats vertices;
+        std::vector<harness::Vertex> vertices;
         GLenum activeTexture;
     } operations[] = {
         {"rectangle",
@@ -98,14 +88,16 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
              FeedVertices(filler.positionLocation, filler.vertexBuffer, 96) +
              Calls{Call("glDrawArrays", GL_TRIANGLES, 0, 6)} +
              UnbindVertices(filler.positionLocation) + unbind,
-         {-h, h, 0, 1, h, h, 0, 1, -h, -h, 0, 1, h, -h, 0, 1, -h, -h, 0, 1, h, h, 0, 1},
+         {{-h, h, 0, 1}, {h, h, 0, 1}, {-h, -h, 0, 1}, {h, -h, 0, 1}, {-h, -h, 0, 1}, {h, h, 0, 1}},
          GL_TEXTURE2},
         {"blit",
          [&] { Blit(source, target, rect, rect); },
          Calls(2, Zero(targetSize)) + blitStart +
              DrawQuad(blitter, BindTexture(Target(source).texture)) + blitEnd,
-         {-h, -h, 0.125f, 0.625f, h, -h, 0.375f, 0.625f, //
-          -h, h, 0.125f, 0.875f, h, h, 0.375f, 0.875f},
+         {{-h, -h, 0.125f, 0.625f},
+          {h, -h, 0.375f, 0.625f},
+          {-h, h, 0.125f, 0.875f},
+          {h, h, 0.375f, 0.875f}},
          GL_TEXTURE0},
         // Copies the region and a pixel around it.
         {"blit within one buffer",
@@ -114,14 +106,14 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
              Calls{bind[0], bindNew,
                    Call("glCopyTexImage2D", GL_TEXTURE_2D, 0, GL_RGBA, 15, 7, 34, 18, 0)} +
              SetParameters() + blitStart + DrawQuad(blitter, bindNew) + blitEnd + deleteTexture,
-         {-h, -h, s0, t1, h, -h, s1, t1, -h, h, s0, t0, h, h, s1, t0},
+         {{-h, -h, s0, t1}, {h, -h, s1, t1}, {-h, h, s0, t0}, {h, h, s1, t0}},
          GL_TEXTURE0},
         {"presentation",
          [&] { Display(target, rect, WholeWindow()); },
          Calls{Zero(targetSize), Zero(rectSize), Zero(rectSize)} + clearAndBlend(frame.program) +
              DrawQuad(frame, BindTexture(Target(target).texture)) + disableBlending +
              UnbindVertices(frame.coordLocation) + unbindTexture,
-         {-1, -1, q, q, 1, -1, 0.75f, q, -1, 1, q, 0.75f, 1, 1, 0.75f, 0.75f},
+         {{-1, -1, q, q}, {1, -1, 0.75f, q}, {-1, 1, q, 0.75f}, {1, 1, 0.75f, 0.75f}},
          GL_TEXTURE0},
         {"bitmap",
          [&] { Display(image, WholeWindow()); },
@@ -133,7 +125,7 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
              SetParameters() + unbindTexture + clearAndBlend(bitmap.program) +
              DrawQuad(bitmap, bindNew) + UnbindVertices(bitmap.coordLocation) + disableBlending +
              unbindTexture + deleteTexture,
-         {-1, 1, 0, 0, 1, 1, 1, 0, -1, -1, 0, 1, 1, -1, 1, 1},
+         {{-1, 1, 0, 0}, {1, 1, 1, 0}, {-1, -1, 0, 1}, {1, -1, 1, 1}},
          GL_TEXTURE0},
     };
     const std::string live = harness::DescribeLive();
@@ -141,7 +133,7 @@ TEST_F(OSDCallsGLTest, AreExactlyThese) {
         SCOPED_TRACE(operation.name);
         glActiveTexture(GL_TEXTURE2);
         EXPECT_EQ(RecordWithNewTextureNamed(operation.run), operation.calls);
-        EXPECT_EQ(Vertices(), operation.vertices);
+        EXPECT_EQ(harness::Current().vertices, operation.vertices);
         ExpectStateAfterDraw(operation.activeTexture);
         EXPECT_EQ(harness::CountAllocations(operation.run), 0);
         EXPECT_EQ(harness::DescribeLive(), live);

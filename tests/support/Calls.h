@@ -47,6 +47,17 @@ inline Calls SetParameters(const std::vector<GLenum>& names = {
     return calls;
 }
 
+/// Opens a window surface, makes it current, and asks for its size and the driver's names.
+inline Calls OpenWindow(const ANativeWindow* window) {
+    return {Call("eglCreateWindowSurface", data, data, reinterpret_cast<uintptr_t>(window), "null"),
+            Call("eglMakeCurrent", data, data, data, data),
+            Call("eglQuerySurface", data, data, EGL_WIDTH, data),
+            Call("eglQuerySurface", data, data, EGL_HEIGHT, data),
+            Call("glGetString", GL_VERSION),
+            Call("glGetString", GL_VENDOR),
+            Call("glGetString", GL_RENDERER)};
+}
+
 inline Calls EnableBlending() {
     return {Call("glEnable", GL_BLEND), Call("glBlendFunc", GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA)};
 }

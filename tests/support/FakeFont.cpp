@@ -10,7 +10,7 @@ void UseCharacters(const std::vector<unsigned long>& codes) {
         *index = place < static_cast<std::ptrdiff_t>(codes.size()) ? 1 : 0;
         return *index == 0 ? FT_ULong() : codes[static_cast<size_t>(place)];
     };
-    harness::Current().loadChar = nullptr;
+    harness::Current().loadChar = FT_Load_Char;
     harness::Current().firstChar = [=](FT_Face, FT_UInt* index) { return visit(0, index); };
     harness::Current().nextChar = [=](FT_Face, FT_ULong code, FT_UInt* index) {
         return visit(std::find(codes.begin(), codes.end(), code) - codes.begin() + 1, index);
@@ -46,7 +46,7 @@ void UseFakeFont(std::vector<FakeGlyph> glyphs) {
 
 void UseFirst(int characters) {
     const auto count = std::make_shared<int>(0);
-    harness::Current().loadChar = nullptr;
+    harness::Current().loadChar = FT_Load_Char;
     harness::Current().firstChar = [=](FT_Face face, FT_UInt* index) {
         *count = 1;
         return FT_Get_First_Char(face, index);

@@ -47,7 +47,6 @@ std::string DescribeLive() {
 
 std::vector<std::string> Record(const std::function<void()>& action) {
     Current().calls.clear();
-    Current().shaderStrings.clear();
     Current().isRecording = true;
     action();
     Current().isRecording = false;

@@ -9,6 +9,8 @@
 
 #include "surface/Records.h"
 
+#include <EGL/egl.h>
+#include <array>
 #include <functional>
 #include <map>
 #include <optional>
@@ -35,15 +37,21 @@ struct LogLine {
 };
 std::ostream& operator<<(std::ostream& out, const LogLine& line);
 
-/// Writes an argument of a recorded call: a number, "null" or "data".
+/// Writes an argument of a recorded call: a number, "null", "data" or a list of EGL's attributes.
 template <typename Value>
 void WriteArgument(std::ostream& out, Value value) {
-    if constexpr (std::is_same_v<Value, const char*>) {
-        out << (value == nullptr ? "null" : value);
-    } else if constexpr (std::is_pointer_v<Value>) {
-        out << (value == nullptr ? "null" : "data");
-    } else {
+    if constexpr (!std::is_pointer_v<Value>) {
         out << +value;
+    } else if (value == nullptr) {
+        out << "null";
+    } else if constexpr (std::is_same_v<Value, const char*>) {
+        out << value;
+    } else if constexpr (std::is_same_v<Value, const EGLint*>) {
+        for (; *value != EGL_NONE; ++value) {
+            out << *value << ' ';
+        }
+    } else {
+        out << "data";
     }
 }
 
@@ -58,14 +66,15 @@ std::string Call(const char* name, Args... args) {
     return out.str();
 }
 
+using Vertex = std::array<float, 4>;
+
 /// What the interposed functions record, and how they behave.
 struct State {
     std::vector<LogLine> log;
 
     bool isRecording = false;
     std::vector<std::string> calls;
-    std::vector<std::string> shaderStrings;         ///< of glShaderSource
-    std::vector<unsigned char> bufferData;          ///< of the last glBufferData
+    std::vector<Vertex> vertices;                   ///< of the last glBufferData
     std::map<std::string, int> callCounts;          ///< of every function, also when not recording
     std::map<std::string, std::set<size_t>> faults; ///< which calls fail, by count
 
@@ -73,13 +82,11 @@ struct State {
 
     std::optional<int> framebufferStatus; ///< for glCheckFramebufferStatus
     std::optional<int> maxTextureSize;    ///< for glGetIntegerv
-    std::optional<int> infoLogLength;     ///< for glGetShaderiv and glGetProgramiv
     std::string fontFile;                 ///< for FT_New_Face, unless empty
 
-    std::function<int(const std::string&)> locate; ///< for glGet{Attrib,Uniform}Location
-    std::function<FT_Error(FT_Face, FT_ULong, FT_Int32)> loadChar;
-    std::function<FT_ULong(FT_Face, FT_UInt*)> firstChar;
-    std::function<FT_ULong(FT_Face, FT_ULong, FT_UInt*)> nextChar;
+    std::function<FT_Error(FT_Face, FT_ULong, FT_Int32)> loadChar = FT_Load_Char;
+    std::function<FT_ULong(FT_Face, FT_UInt*)> firstChar = FT_Get_First_Char;
+    std::function<FT_ULong(FT_Face, FT_ULong, FT_UInt*)> nextChar = FT_Get_Next_Char;
 };
 State& Current();
 
@@ -136,6 +143,12 @@ bool CountCall(const char* name);
 /// Ignores object 0, which means none.
 void AddLive(const char* kind, size_t object);
 void RemoveLive(const char* kind, size_t object);
+inline void AddLive(const char* kind, const void* object) {
+    AddLive(kind, reinterpret_cast<size_t>(object));
+}
+inline void RemoveLive(const char* kind, const void* object) {
+    RemoveLive(kind, reinterpret_cast<size_t>(object));
+}
 
 /// The definition of a symbol behind the test program's.
 void* NextSymbol(const char* name);

@@ -18,12 +18,25 @@
     noteCall arguments;                                                                            \
     [[maybe_unused]] const bool isFailing = harness::CountCall(#name)
 
-/// A function that passes on its call. Returns 0, null or nothing if a fault is set.
-#define PASS_ON(Return, name, parameters, arguments)                                               \
+/// A function that passes on its call. If a fault is set, it only returns `failure`.
+#define PASS_ON_OR(failure, Return, name, parameters, arguments)                                   \
     extern "C" Return name parameters {                                                            \
         using Result = Return;                                                                     \
         INTERPOSE(name, arguments);                                                                \
-        return isFailing ? Result() : real arguments;                                              \
+        return isFailing ? Result(failure) : real arguments;                                       \
+    }
+
+/// The same. If a fault is set, it returns 0, null or nothing.
+#define PASS_ON(Return, name, parameters, arguments)                                               \
+    PASS_ON_OR(, Return, name, parameters, arguments)
+
+/// A function that returns a new object of that kind, or 0 if a fault is set.
+#define BEGIN_LIFE(Return, name, kind, parameters, arguments)                                      \
+    extern "C" Return name parameters {                                                            \
+        INTERPOSE(name, arguments);                                                                \
+        const Return object = isFailing ? Return() : real arguments;                               \
+        harness::AddLive(kind, object);                                                            \
+        return object;                                                                             \
     }
 
 /// A function that destroys an object of that kind. If a fault is set, it destroys the object, too,
@@ -31,9 +44,9 @@
 #define END_LIFE(Return, name, kind, object, failure, parameters, arguments)                       \
     extern "C" Return name parameters {                                                            \
         INTERPOSE(name, arguments);                                                                \
-        harness::RemoveLive(kind, reinterpret_cast<size_t>(object));                               \
-        const Return result = real arguments;                                                      \
-        return isFailing ? Return(failure) : result;                                               \
+        harness::RemoveLive(kind, object);                                                         \
+        using Result = Return;                                                                     \
+        return isFailing ? (real arguments, Result(failure)) : real arguments;                     \
     }
 
 #endif

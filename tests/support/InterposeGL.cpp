@@ -30,11 +30,19 @@ PASS_ON(void, glGetProgramInfoLog, (GLuint program, GLsizei size, GLsizei* lengt
 PASS_ON(void, glGetShaderInfoLog, (GLuint shader, GLsizei size, GLsizei* length, GLchar* text),
         (shader, size, length, text))
 PASS_ON(GLenum, glGetError, (), ())
+PASS_ON_OR(-1, GLint, glGetAttribLocation, (GLuint program, const GLchar* name), (program, name))
+PASS_ON_OR(-1, GLint, glGetUniformLocation, (GLuint program, const GLchar* name), (program, name))
+// A failing query does not change the value, as with a lost context.
+PASS_ON(void, glGetProgramiv, (GLuint program, GLenum name, GLint* value), (program, name, value))
+PASS_ON(void, glGetShaderiv, (GLuint shader, GLenum name, GLint* value), (shader, name, value))
 PASS_ON(const GLubyte*, glGetString, (GLenum name), (name))
 PASS_ON(GLboolean, glIsProgram, (GLuint program), (program))
 PASS_ON(GLboolean, glIsShader, (GLuint shader), (shader))
 PASS_ON(void, glLinkProgram, (GLuint program), (program))
 PASS_ON(void, glPixelStorei, (GLenum name, GLint value), (name, value))
+PASS_ON(void, glShaderSource,
+        (GLuint shader, GLsizei count, const GLchar* const* strings, const GLint* lengths),
+        (shader, count, strings, lengths))
 PASS_ON(void, glTexImage2D,
         (GLenum target, GLint level, GLint internalFormat, GLsizei width, GLsizei height,
          GLint border, GLenum format, GLenum type, const void* pixels),
@@ -64,17 +72,9 @@ extern "C" void glUniform4fv(GLint location, GLsizei count, const GLfloat* value
 
 extern "C" void glBufferData(GLenum target, GLsizeiptr size, const void* data, GLenum usage) {
     INTERPOSE(glBufferData, (target, size, data, usage));
-    const unsigned char* bytes = static_cast<const unsigned char*>(data);
-    harness::Current().bufferData.assign(bytes, bytes + size);
+    const auto* first = static_cast<const harness::Vertex*>(data);
+    harness::Current().vertices.assign(first, first + size / GLsizeiptr{sizeof(*first)});
     real(target, size, data, usage);
-}
-
-extern "C" void glShaderSource(GLuint shader, GLsizei count, const GLchar* const* strings,
-                               const GLint* lengths) {
-    INTERPOSE(glShaderSource, (shader, count, strings, lengths));
-    harness::Current().shaderStrings.insert(harness::Current().shaderStrings.end(), strings,
-                                            strings + count);
-    real(shader, count, strings, lengths);
 }
 
 extern "C" GLenum glCheckFramebufferStatus(GLenum target) {
@@ -95,30 +95,6 @@ extern "C" void glGetIntegerv(GLenum name, GLint* value) {
     }
 }
 
-// A failing query does not change the value, as with a lost context.
-#define QUERY(name)                                                                                \
-    extern "C" void name(GLuint object, GLenum what, GLint* value) {                               \
-        INTERPOSE(name, (object, what, value));                                                    \
-        if (isFailing) {                                                                           \
-            return;                                                                                \
-        }                                                                                          \
-        real(object, what, value);                                                                 \
-        if (what == GL_INFO_LOG_LENGTH) {                                                          \
-            *value = harness::Current().infoLogLength.value_or(*value);                            \
-        }                                                                                          \
-    }
-QUERY(glGetShaderiv)
-QUERY(glGetProgramiv)
-
-#define LOCATE(name)                                                                               \
-    extern "C" GLint name(GLuint program, const GLchar* variable) {                                \
-        INTERPOSE(name, (program, variable));                                                      \
-        const auto& locate = harness::Current().locate;                                            \
-        return isFailing ? -1 : locate ? locate(variable) : real(program, variable);               \
-    }
-LOCATE(glGetAttribLocation)
-LOCATE(glGetUniformLocation)
-
 // The library creates and deletes one object at a time. A driver that cannot create one returns 0.
 #define GENERATE(name, kind)                                                                       \
     extern "C" void name(GLsizei count, GLuint* objects) {                                         \
@@ -130,33 +106,17 @@ LOCATE(glGetUniformLocation)
         real(count, objects);                                                                      \
         harness::AddLive(kind, *objects);                                                          \
     }
-#define DELETE_GENERATED(name, kind)                                                               \
-    extern "C" void name(GLsizei count, const GLuint* objects) {                                   \
-        INTERPOSE(name, (count, objects));                                                         \
-        harness::RemoveLive(kind, *objects);                                                       \
-        real(count, objects);                                                                      \
-    }
 GENERATE(glGenTextures, "texture")
 GENERATE(glGenBuffers, "buffer")
 GENERATE(glGenFramebuffers, "framebuffer")
-DELETE_GENERATED(glDeleteTextures, "texture")
-DELETE_GENERATED(glDeleteBuffers, "buffer")
-DELETE_GENERATED(glDeleteFramebuffers, "framebuffer")
+END_LIFE(void, glDeleteTextures, "texture", *objects, , (GLsizei count, const GLuint* objects),
+         (count, objects))
+END_LIFE(void, glDeleteBuffers, "buffer", *objects, , (GLsizei count, const GLuint* objects),
+         (count, objects))
+END_LIFE(void, glDeleteFramebuffers, "framebuffer", *objects, ,
+         (GLsizei count, const GLuint* objects), (count, objects))
 
-#define CREATE(name, parameters, arguments, kind)                                                  \
-    extern "C" GLuint name parameters {                                                            \
-        INTERPOSE(name, arguments);                                                                \
-        const GLuint object = isFailing ? 0 : real arguments;                                      \
-        harness::AddLive(kind, object);                                                            \
-        return object;                                                                             \
-    }
-#define DELETE_CREATED(name, kind)                                                                 \
-    extern "C" void name(GLuint object) {                                                          \
-        INTERPOSE(name, (object));                                                                 \
-        harness::RemoveLive(kind, object);                                                         \
-        real(object);                                                                              \
-    }
-CREATE(glCreateShader, (GLenum type), (type), "shader")
-CREATE(glCreateProgram, (), (), "program")
-DELETE_CREATED(glDeleteShader, "shader")
-DELETE_CREATED(glDeleteProgram, "program")
+BEGIN_LIFE(GLuint, glCreateShader, "shader", (GLenum type), (type))
+BEGIN_LIFE(GLuint, glCreateProgram, "program", (), ())
+END_LIFE(void, glDeleteShader, "shader", shader, , (GLuint shader), (shader))
+END_LIFE(void, glDeleteProgram, "program", program, , (GLuint program), (program))

@@ -29,9 +29,10 @@ struct ExactFloatsTest : ::testing::Test {
         }
     }
     void AddUploadToHash() {
-        ASSERT_FALSE(harness::Current().bufferData.empty());
-        AddToHash(harness::Current().bufferData.data(), harness::Current().bufferData.size());
-        harness::Current().bufferData.clear();
+        std::vector<harness::Vertex>& vertices = harness::Current().vertices;
+        ASSERT_FALSE(vertices.empty());
+        AddToHash(vertices.data(), vertices.size() * sizeof(harness::Vertex));
+        vertices.clear();
     }
 
     unsigned int Below(unsigned int end) { return static_cast<unsigned int>(random() % end); }

@@ -1,4 +1,4 @@
-#include "LifecycleFixture.h"
+#include "support/LifecycleFixture.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "LifecycleFixture.h"
+#include "support/LifecycleFixture.h"
 
 namespace {
 
@@ -10,8 +10,13 @@ protected:
     }
 };
 
-const harness::LogLine creating = SurfaceLine("Create GL window\n", 5);
-const harness::LogLine recreating = SurfaceLine("ReCreate GL window\n", 5);
+const harness::LogLine releasing = {2, "EGLManager", "EGLManager::EGLRelease"};
+const harness::LogLine released = {5, "EGLManager", "EGL Context has been released\n"};
+
+harness::LogLine GlLine(const std::string& what, GLenum name) {
+    const auto* text = reinterpret_cast<const char*>(glGetString(name));
+    return {6, "EGLManager", "GL " + what + " = " + text + "\n"};
+}
 
 } // namespace
 
@@ -27,13 +32,60 @@ TEST_F(LifecycleGLTest, StartsUnboundWithoutACall) {
     EXPECT_EQ(harness::TakeLog(), Log());
 }
 
-TEST_F(LifecycleGLTest, MovesToAnotherWindowAndKeepsTheRest) {
-    ASSERT_EQ(surface->ZoCreateGLWindowSurface(window.Native()), ZO_SUCCESS);
-    EXPECT_EQ(harness::TakeLog().front(), creating);
+TEST_F(LifecycleGLTest, BindsInOrderAndLogsTheDriver) {
+    const Calls calls = harness::Record([&] { surface->ZoCreateGLWindowSurface(window.Native()); });
+    EXPECT_EQ(calls, (Calls{Call("eglGetDisplay", "null"), Call("eglInitialize", data, data, data),
+                            Call("eglChooseConfig", data,
+                                 "12339 4 12352 4 12324 8 12323 8 12322 8 12321 8 ", data, 1, data),
+                            Call("eglCreateContext", data, data, "null", "12440 2 ")} +
+                      OpenWindow(window.Native())));
+    const EGLManager& manager = *surface->eglManager;
+    const Log log = harness::TakeLog();
+    EGLint major = 0;
+    EGLint minor = 0;
+    eglInitialize(manager.display, &major, &minor); // again, for the version
+    const std::string version = std::to_string(major) + "." + std::to_string(minor);
+    EXPECT_EQ(log, (Log{SurfaceLine("Create GL window\n", 5),
+                        {2, "EGLManager", "Initialized EGL v" + version},
+                        GlLine("Version", GL_VERSION),
+                        GlLine("Vendor", GL_VENDOR),
+                        GlLine("Renderer", GL_RENDERER)}));
     EXPECT_EQ(Components(), "pool ");
     ReadWindowSize();
     ExpectWindowSize(windowWidth, windowHeight);
     EXPECT_EQ(Target(ZO_WINDOW_HANDLE).height, windowHeight);
+    EXPECT_EQ(eglGetCurrentSurface(EGL_DRAW), manager.surface);
+    EXPECT_EQ(eglGetCurrentSurface(EGL_READ), manager.surface);
+    EXPECT_EQ(eglGetCurrentContext(), manager.context);
+}
+
+TEST_F(LifecycleGLTest, ReleasesEglInOrderAndOnlyOnce) {
+    Bind();
+    EGLManager& manager = *surface->eglManager;
+    EXPECT_EQ(manager.SwapBuffers(), EGLBoolean{EGL_TRUE});
+    harness::FailCall("eglSwapBuffers");
+    EXPECT_EQ(manager.SwapBuffers(), EGLBoolean{EGL_FALSE});
+    EXPECT_EQ(harness::Record([&] { manager.EGLRelease(); }),
+              (Calls{Call("eglDestroyContext", data, data), Call("eglDestroySurface", data, data),
+                     Call("eglMakeCurrent", data, "null", "null", "null"),
+                     Call("eglTerminate", data), Call("eglReleaseThread")}));
+    EXPECT_EQ(harness::TakeLog(), Log{releasing});
+    EXPECT_TRUE(manager.display == EGL_NO_DISPLAY && manager.config == nullptr &&
+                manager.context == EGL_NO_CONTEXT && manager.surface == EGL_NO_SURFACE);
+    EXPECT_EQ(harness::Record([&] { manager.Release(); }), Calls());
+    EXPECT_EQ(harness::TakeLog(), (Log{releasing, released}));
+    EXPECT_EQ(manager.GetWindowWidth(), windowWidth);
+    // EGL_BAD_DISPLAY, as there is no display.
+    EXPECT_EQ(manager.MakeCurrent(), ZO_FAILURE);
+    EXPECT_EQ(manager.ReCreateWindowSurface(window.Native()), ZO_NO_WINDOW_SURFACE);
+    EXPECT_EQ(harness::TakeLog(), (Log{{6, "EGLManager", "egl make current failed: 0x3008"},
+                                       {6, "EGLManager", "eglCreateWindowSurface error: 0x3008"},
+                                       releasing,
+                                       released}));
+}
+
+TEST_F(LifecycleGLTest, MovesToAnotherWindowAndKeepsTheRest) {
+    Bind();
     ASSERT_EQ(surface->Init(allComponents), ZO_SUCCESS);
     const unsigned int buffer = CreateBuffer(8, 8);
     Fill(buffer, filling);
@@ -44,15 +96,8 @@ TEST_F(LifecycleGLTest, MovesToAnotherWindowAndKeepsTheRest) {
         EXPECT_EQ(surface->ZoCreateGLWindowSurface(nullptr), ZO_INVALID_PARAM);
         EXPECT_EQ(surface->ZoCreateGLWindowSurface(other.Native()), ZO_SUCCESS);
     });
-    EXPECT_EQ(calls,
-              (Calls{Call("eglDestroySurface", data, data),
-                     Call("eglCreateWindowSurface", data, data,
-                          reinterpret_cast<uintptr_t>(other.Native()), "null"),
-                     Call("eglMakeCurrent", data, data, data, data),
-                     Call("eglQuerySurface", data, data, 0x3057, data),
-                     Call("eglQuerySurface", data, data, 0x3056, data), Call("glGetString", 0x1F02),
-                     Call("glGetString", 0x1F00), Call("glGetString", 0x1F01)}));
-    EXPECT_EQ(harness::TakeLog()[1], recreating);
+    EXPECT_EQ(calls, Calls{Call("eglDestroySurface", data, data)} + OpenWindow(other.Native()));
+    EXPECT_EQ(harness::TakeLog()[1], SurfaceLine("ReCreate GL window\n", 5));
     ReadWindowSize();
     ExpectWindowSize(windowWidth, windowHeight);
     EXPECT_EQ(surface->osdText.get(), text);

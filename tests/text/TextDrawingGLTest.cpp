@@ -1,25 +1,15 @@
 #include "TextFixture.h"
 
-#include <cstring>
-
 namespace {
-
-using Corner = std::array<float, 4>;
 
 class TextDrawingGLTest : public TextFixture {
 protected:
-    std::vector<Corner> Vertices() const {
-        const std::vector<unsigned char>& bytes = harness::Current().bufferData;
-        std::vector<Corner> vertices(bytes.size() / sizeof(Corner));
-        memcpy(vertices.data(), bytes.data(), vertices.size() * sizeof(Corner));
-        return vertices;
-    }
+    static const std::vector<harness::Vertex>& Vertices() { return harness::Current().vertices; }
 
     // Whether the vertices from `first` on are zero.
-    bool IsZeroFrom(size_t first) const {
-        const std::vector<Corner> vertices = Vertices();
-        return std::count(vertices.begin() + static_cast<long>(first), vertices.end(), Corner()) ==
-               static_cast<long>(vertices.size() - first);
+    static bool IsZeroFrom(long first) {
+        return std::all_of(Vertices().begin() + first, Vertices().end(),
+                           [](const harness::Vertex& v) { return v == harness::Vertex(); });
     }
 
     static Calls Create(GLenum unit, GLuint texture, int columns, int rows) {

@@ -3,13 +3,21 @@
 #ifndef ZOGLES_TESTS_TEXT_TEXTFIXTURE_H
 #define ZOGLES_TESTS_TEXT_TEXTFIXTURE_H
 
-#include "ReferenceFont.h"
 #include "support/Calls.h"
 #include "support/FakeFont.h"
 #include "support/SurfaceFixture.h"
 
+#include <string_view>
+
 constexpr char sansPath[] = ZOGLES_TEST_FONT;
 constexpr char monoPath[] = ZOGLES_TEST_MONO_FONT;
+
+struct Style {
+    unsigned int size = 40;
+    bool isBold = false;
+    bool isItalic = false;
+    tagZoColorRGBA color = {255, 255, 255, 255};
+};
 
 class TextFixture : public SurfaceFixture {
 protected:
@@ -22,7 +30,6 @@ protected:
     /// Loads a font and drops the log of it.
     void Load(const char* path = sansPath, unsigned int size = 40);
 
-    tagZoTextInfo Request(std::u16string_view text, const Style& style = {}) const;
     int Draw(std::u16string_view text, const Style& style = {}, unsigned int x = 10,
              unsigned int y = 60);
 

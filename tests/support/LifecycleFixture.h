@@ -1,13 +1,11 @@
 /// @file
 /// A surface whose default font exists and is small.
-#ifndef ZOGLES_TESTS_SURFACE_LIFECYCLEFIXTURE_H
-#define ZOGLES_TESTS_SURFACE_LIFECYCLEFIXTURE_H
+#ifndef ZOGLES_TESTS_SUPPORT_LIFECYCLEFIXTURE_H
+#define ZOGLES_TESTS_SUPPORT_LIFECYCLEFIXTURE_H
 
 #include "support/Calls.h"
 #include "support/FakeFont.h"
 #include "support/SurfaceFixture.h"
-
-#include <algorithm>
 
 constexpr unsigned int allComponents = 0x3F;
 
@@ -34,8 +32,5 @@ inline Pixel Empty(int, int) {
 }
 
 harness::LogLine SurfaceLine(const std::string& text, int priority = 6);
-
-/// The log without its verbose lines.
-Log TakeLogAboveVerbose();
 
 #endif

@@ -1,4 +1,4 @@
-#include "LifecycleFixture.h"
+#include "support/LifecycleFixture.h"
 
 void LifecycleFixture::SetUp() {
     SurfaceFixture::SetUp();
@@ -39,12 +39,4 @@ void LifecycleFixture::ExpectUsable() {
 
 harness::LogLine SurfaceLine(const std::string& text, int priority) {
     return {priority, "ZoGLDrawSurface", text};
-}
-
-Log TakeLogAboveVerbose() {
-    Log log = harness::TakeLog();
-    log.erase(std::remove_if(log.begin(), log.end(),
-                             [](const harness::LogLine& line) { return line.priority <= 2; }),
-              log.end());
-    return log;
 }
