@@ -115,6 +115,7 @@ TEST_F(LifecycleGLTest, KeepsThePoolsRecordAtASecondWindowSize) {
     Bind();
     const TestWindow other(200, 100);
     EXPECT_EQ(surface->ZoCreateGLWindowSurface(other.Native()), ZO_SUCCESS);
+    EXPECT_EQ(harness::TakeLog()[0], SurfaceLine("ReCreate GL window\n", 5)); // without a font, too
     ExpectWindowSize(200, 100);
     EXPECT_EQ(Target(ZO_WINDOW_HANDLE).height, windowHeight);
     surface->ZoDestoryGLWindowSurface();
