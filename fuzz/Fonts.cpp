@@ -19,22 +19,14 @@ namespace {
 
 constexpr unsigned int largestSize = 128;
 
-// A new file for each input: an open face maps its file.
-class MemoryFile {
-public:
-    explicit MemoryFile(const std::string& content) : file(memfd_create("font", MFD_CLOEXEC)) {
-        const ssize_t written = write(file, content.data(), content.size());
-        fuzz::Require(written == static_cast<ssize_t>(content.size()), "memfd", written);
-    }
-    ~MemoryFile() { close(file); }
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-
-    std::string Path() const { return "/proc/self/fd/" + std::to_string(file); }
-
-private:
-    int file;
-};
+// The file of the last input is closed: its surface is destroyed.
+std::string WriteFile(const std::string& content) {
+    static const int file = memfd_create("font", MFD_CLOEXEC);
+    const bool isEmpty = ftruncate(file, 0) == 0;
+    const ssize_t written = pwrite(file, content.data(), content.size(), 0);
+    fuzz::Require(isEmpty && written == static_cast<ssize_t>(content.size()), "memfd", written);
+    return "/proc/self/fd/" + std::to_string(file);
+}
 
 } // namespace
 
@@ -48,14 +40,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     for (int i = 0; i < 4; ++i) {
         units += input.ConsumeIntegral<char16_t>();
     }
-    const MemoryFile file(input.ConsumeRemainingBytesAsString());
+    const std::string path = WriteFile(input.ConsumeRemainingBytesAsString());
 
     harness::Reset();
     fuzz::LimitFreeType();
     harness::Current().maxTextureSize = largestTexture;
     auto surface = std::make_unique<ZoGLDrawSurface>();
     fuzz::RequireCode("bind", surface->ZoCreateGLWindowSurface(fuzz::WindowOf(0)), {ZO_SUCCESS});
-    const int loaded = surface->ZoLoadFont(file.Path().c_str(), loadedSize);
+    const int loaded = surface->ZoLoadFont(path.c_str(), loadedSize);
     fuzz::RequireCode("load", loaded, {ZO_SUCCESS, ZO_FONT_FACE_FAILED, ZO_FONT_ATLAS_EMPTY});
 
     // Without a font, text loads the default one, which does not exist here.

@@ -39,7 +39,7 @@ public:
             &Session::Refresh,       &Session::CreateBuffer, &Session::DestroyBuffer,
             &Session::DrawRect,      &Session::Blit,         &Session::DisplayBuffer,
             &Session::DisplayBitmap, &Session::LoadFont,     &Session::MeasureText,
-            &Session::DrawText,      &Session::DrawText,     &Session::ResizeWindow,
+            &Session::DrawText,      &Session::DrawText,     &Session::DrawText,
             &Session::FilterLog};
         while (input.remaining_bytes() > 0) {
             harness::Reset(); // forgets the refusals of the step before
@@ -270,12 +270,6 @@ private:
         const int code = surface->ZoDrawText(handle, OrNull(&text), OrNull(&pen));
         Require("ZoDrawText", code, textCodes);
         isCertain = isCertain && isBound;
-    }
-
-    void ResizeWindow() {
-        const auto number = input.ConsumeIntegral<uint8_t>();
-        const unsigned int width = input.ConsumeIntegralInRange(1U, 300U);
-        fuzz::ResizeWindow(number, width, input.ConsumeIntegralInRange(1U, 300U));
     }
 
     // The library reads the filter from the environment once in a process.

@@ -4,41 +4,31 @@
 #include "support/Harness.h"
 
 #include <X11/Xlib.h>
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <unistd.h>
 
 #include FT_OUTLINE_H
 
 namespace {
 
-constexpr unsigned int windowWidth = 160;
-constexpr unsigned int windowHeight = 120;
 constexpr int charactersOfFont = 300;
 constexpr FT_Pos largestGlyph = 2048; // pixels a side
 constexpr FT_ULong lastCharacter = 0x10FFFF;
 
 int messages = STDERR_FILENO;
 
-struct Screen {
-    Screen() : display(XOpenDisplay(nullptr)), windows() {
-        fuzz::Require(display != nullptr, "the fuzz targets need an X server", 0);
-        for (Window& window : windows) {
-            window = XCreateSimpleWindow(display, XDefaultRootWindow(display), 0, 0, windowWidth,
-                                         windowHeight, 0, 0, 0);
-            XMapWindow(display, window);
-        }
-        XSync(display, False);
-    }
-
-    Display* display;
-    Window windows[fuzz::windowCount];
-};
-
-Screen& TheScreen() {
-    static Screen screen;
-    return screen;
+ANativeWindow* OpenWindow(unsigned int width, unsigned int height) {
+    static Display* const display = XOpenDisplay(nullptr);
+    fuzz::Require(display != nullptr, "the fuzz targets need an X server", 0);
+    const Window window =
+        XCreateSimpleWindow(display, XDefaultRootWindow(display), 0, 0, width, height, 0, 0, 0);
+    XMapWindow(display, window);
+    XSync(display, False);
+    return reinterpret_cast<ANativeWindow*>(static_cast<uintptr_t>(window));
 }
 
 bool IsHuge(FT_GlyphSlot glyph) {
@@ -65,13 +55,8 @@ FT_Error LoadUnlessHuge(FT_Face face, FT_ULong code, FT_Int32 flags) {
 namespace fuzz {
 
 ANativeWindow* WindowOf(unsigned int number) {
-    return reinterpret_cast<ANativeWindow*>(
-        static_cast<uintptr_t>(TheScreen().windows[number % windowCount]));
-}
-
-void ResizeWindow(unsigned int number, unsigned int width, unsigned int height) {
-    XResizeWindow(TheScreen().display, TheScreen().windows[number % windowCount], width, height);
-    XSync(TheScreen().display, False);
+    static ANativeWindow* const windows[] = {OpenWindow(160, 120), OpenWindow(30, 300)};
+    return windows[number % std::size(windows)];
 }
 
 void Require(bool isTrue, const char* what, long long value) {
@@ -82,12 +67,8 @@ void Require(bool isTrue, const char* what, long long value) {
 }
 
 void RequireCode(const char* operation, int code, std::initializer_list<int> documented) {
-    for (const int known : documented) {
-        if (code == known) {
-            return;
-        }
-    }
-    Require(false, operation, code);
+    const bool isKnown = std::find(documented.begin(), documented.end(), code) != documented.end();
+    Require(isKnown, operation, code);
 }
 
 void RequireNothingLeft(std::unique_ptr<ZoGLDrawSurface> surface) {
@@ -111,10 +92,5 @@ void LimitFreeType() {
 // The fuzzer closes stderr to silence the log. The checks keep their own copy of it.
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
     messages = dup(STDERR_FILENO);
-    return 0;
-}
-
-// Drivers stay loaded, so that the leak checker can name the driver in a leak's stack.
-extern "C" int dlclose(void*) {
     return 0;
 }

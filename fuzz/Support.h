@@ -9,12 +9,8 @@
 
 namespace fuzz {
 
-constexpr unsigned int windowCount = 2;
-
-/// One of the windows, which exist as long as the process.
+/// One of two windows of different sizes, which exist as long as the process.
 ANativeWindow* WindowOf(unsigned int number);
-
-void ResizeWindow(unsigned int number, unsigned int width, unsigned int height);
 
 /// Ends the program, with a message, unless `isTrue`.
 void Require(bool isTrue, const char* what, long long value);

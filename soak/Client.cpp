@@ -10,9 +10,9 @@
 namespace {
 
 constexpr size_t poolSize = 15;
-constexpr unsigned int largestSide = 640;
 constexpr unsigned int allComponents = ZO_COMPONENT_TEXT | ZO_COMPONENT_BLIT | ZO_COMPONENT_BITMAP |
                                        ZO_COMPONENT_RECT | ZO_COMPONENT_FRAME | ZO_COMPONENT_FBO;
+constexpr tagZoRectInfo all = {0, 0, Client::largestSide, Client::largestSide};
 constexpr tagZoRectInfo somewhere = {10, 60, 100, 40};
 constexpr tagZoColorRGBA white = {255, 255, 255, 255};
 
@@ -45,8 +45,7 @@ void Expect(const char* what, int value, int expected = ZO_SUCCESS) {
 
 } // namespace
 
-Client::Client(unsigned int seed, std::string damagedFontPath)
-    : random(seed), damagedFont(std::move(damagedFontPath)), display(XOpenDisplay(nullptr)) {
+Client::Client(unsigned int seed) : random(seed), display(XOpenDisplay(nullptr)) {
     if (display == nullptr) {
         throw std::runtime_error("no X server");
     }
@@ -67,17 +66,14 @@ void Client::Step(bool mayLose) {
     } else if (draw < 4) {
         LoadAnyFont();
     } else if (draw < 8) {
-        XResizeWindow(display, window, 1 + AnyBelow(largestSide), 1 + AnyBelow(largestSide));
-        XSync(display, False);
+        ResizeWindow(AnySize());
     } else if (draw < 16) {
         CheckPixel();
     } else if (draw < 30) {
         ShowBitmap(1 + AnyBelow(128), 1 + AnyBelow(128));
-    } else if (draw < 50) {
-        CallInError();
-    } else if (draw < 80) {
-        CreateAnyBuffer();
-    } else if (draw < 100 && !buffers.empty()) {
+    } else if (draw < 60) {
+        CreateBuffer(AnySize());
+    } else if (draw < 80 && !buffers.empty()) {
         DestroyBuffer(AnyBelow(static_cast<unsigned int>(buffers.size())));
     } else {
         Frame();
@@ -86,7 +82,7 @@ void Client::Step(bool mayLose) {
 
 void Client::Settle(bool loses) {
     for (size_t i = buffers.size(); i <= poolSize; ++i) { // and one more, which fails
-        CreateAnyBuffer();
+        CreateBuffer(AnySize());
     }
     while (!buffers.empty()) {
         DestroyBuffer(buffers.size() - 1);
@@ -94,11 +90,10 @@ void Client::Settle(bool loses) {
     if (loses) {
         Lose();
     }
-    XResizeWindow(display, window, largestSide, largestSide);
-    XSync(display, False);
+    ResizeWindow(all);
     LoadFont(ordinaryFont, 40);
     Expect("init", surface.Init(allComponents));
-    CreateBuffer(largestSide, largestSide);
+    CreateBuffer(all);
     for (int frame = 0; frame < 4; ++frame) { // drivers keep what the last frames needed
         ShowBitmap(16, 16);
         CheckPixel();
@@ -115,6 +110,11 @@ void Client::Settle(bool loses) {
 void Client::OpenWindow() {
     window = XCreateSimpleWindow(display, XDefaultRootWindow(display), 0, 0, 640, 360, 0, 0, 0);
     XMapWindow(display, window);
+    XSync(display, False);
+}
+
+void Client::ResizeWindow(const tagZoRectInfo& size) {
+    XResizeWindow(display, window, size.width, size.height);
     XSync(display, False);
 }
 
@@ -193,26 +193,22 @@ void Client::DrawText() {
 
 void Client::ShowBitmap(unsigned int width, unsigned int height) {
     const std::vector<unsigned char> pixels(size_t{width} * height * 4, 0x80);
-    const tagZoBitmapInfo info = {
-        pixels.data(), ZO_FORMAT_RGBA8888, 0, 0, width, height, AnyRect(largestSide, largestSide)};
+    const tagZoBitmapInfo info = {pixels.data(), ZO_FORMAT_RGBA8888, 0, 0, width,
+                                  height,        AnySize()};
     Expect("bitmap", surface.ZoDisplayBitmap(&info));
     Expect("refresh", surface.ZoRefreshOnSrceen());
     ++counts.frames;
 }
 
-void Client::CreateBuffer(unsigned int width, unsigned int height) {
-    Buffer buffer = {ZO_NO_HANDLE, width, height};
+void Client::CreateBuffer(const tagZoRectInfo& size) {
+    Buffer buffer = {ZO_NO_HANDLE, size.width, size.height};
     const bool isFull = buffers.size() == poolSize;
-    const int code = surface.ZoCreateGLFBO(&buffer.handle, width, height, ZO_FORMAT_RGBA8888);
+    const int code =
+        surface.ZoCreateGLFBO(&buffer.handle, size.width, size.height, ZO_FORMAT_RGBA8888);
     Expect("create", code, isFull ? ZO_NO_FREE_FBO : ZO_SUCCESS);
     if (!isFull) {
         buffers.push_back(buffer);
     }
-}
-
-void Client::CreateAnyBuffer() {
-    const unsigned int width = 1 + AnyBelow(largestSide);
-    CreateBuffer(width, 1 + AnyBelow(largestSide));
 }
 
 void Client::DestroyBuffer(size_t index) {
@@ -222,8 +218,7 @@ void Client::DestroyBuffer(size_t index) {
 
 void Client::LoadAnyFont() {
     if (OneIn(3)) {
-        const char* path = OneIn(2) ? damagedFont.c_str() : "/nowhere/missing.ttf";
-        Expect("bad font", surface.ZoLoadFont(path, 40), ZO_FONT_FACE_FAILED);
+        Expect("no font", surface.ZoLoadFont("/nowhere/missing.ttf", 40), ZO_FONT_FACE_FAILED);
     }
     LoadFont(OneIn(100) ? hugeFont : fonts[AnyBelow(std::size(fonts))],
              OneIn(2) ? 40 : 12 + AnyBelow(60));
@@ -234,35 +229,12 @@ void Client::LoadFont(const char* path, unsigned int size) {
     ++counts.fonts;
 }
 
-void Client::CallInError() {
-    const tagZoTextInfo info = AnyText();
-    const tagZoBlitInfo blit = {AnyBuffer().handle, 7, somewhere, somewhere};
-    unsigned int side = 0;
-    const int codes[] = {
-        surface.ZoDrawRect(ZO_WINDOW_HANDLE, nullptr, &white),
-        surface.ZoBlit(&blit),
-        surface.ZoDisplayFBO(12345, &somewhere, &somewhere),
-        surface.ZoDrawText(ZO_WINDOW_HANDLE, &info, nullptr),
-        surface.ZoLoadFont(nullptr, 40),
-        surface.ZoCreateGLFBO(nullptr, 8, 8, ZO_FORMAT_RGBA8888),
-        surface.ZoCreateGLWindowSurface(nullptr),
-    };
-    for (const int code : codes) {
-        Expect("erroneous call", code, ZO_INVALID_PARAM);
-    }
-    if (buffers.size() < poolSize) { // larger than any texture: shows nothing
-        Expect("huge buffer", surface.ZoCreateGLFBO(&side, 100000, 8, ZO_FORMAT_RGBA8888));
-        Expect("destroy a huge buffer", surface.ZoDestoryGLFBO(side));
-    }
-}
-
 // A fill, a copy and a presentation, then the window's pixel: all that drawing goes through.
 void Client::CheckPixel() {
     const Buffer from = AnyBuffer();
     const Buffer to = AnyBuffer();
     tagZoColorRGBA color = AnyColor();
     color.a = 255;
-    const tagZoRectInfo all = {0, 0, largestSide, largestSide};
     const tagZoBlitInfo copy = {from.handle, to.handle, all, all};
     Expect("rectangle", surface.ZoDrawRect(from.handle, &all, &color));
     Expect("blit", surface.ZoBlit(&copy));
@@ -277,7 +249,7 @@ void Client::CheckPixel() {
 
 const Client::Buffer& Client::AnyBuffer() {
     if (buffers.empty()) {
-        CreateAnyBuffer();
+        CreateBuffer(AnySize());
     }
     return buffers[AnyBelow(static_cast<unsigned int>(buffers.size()))];
 }
@@ -300,17 +272,15 @@ tagZoTextInfo Client::AnyText() {
     for (unsigned int left = AnyBelow(OneIn(10) ? 200 : 30); left > 0; --left) {
         text += OneIn(6) ? u' ' : static_cast<char16_t>(script.first + AnyBelow(script.count));
     }
-    const bool isStyled = OneIn(2);
-    tagZoTextInfo info = {text.c_str(),
-                          static_cast<unsigned int>(text.size()),
-                          AnyColor(),
-                          white,
-                          0,
-                          isStyled ? 8 + AnyBelow(80) : 40,
-                          0,
-                          0,
-                          0};
-    info.bold = isStyled && OneIn(2) ? 1 : 0;
-    info.italic = isStyled && OneIn(2) ? 1 : 0;
+    tagZoTextInfo info = {};
+    info.text = text.c_str();
+    info.length = static_cast<unsigned int>(text.size());
+    info.color = AnyColor();
+    info.fontSize = 40;
+    if (OneIn(2)) {
+        info.fontSize = 8 + AnyBelow(80);
+        info.bold = OneIn(2) ? 1 : 0;
+        info.italic = OneIn(2) ? 1 : 0;
+    }
     return info;
 }

@@ -20,8 +20,9 @@ struct Counts {
 /// Throws std::runtime_error if a result differs from what the library's header documents.
 class Client {
 public:
-    /// @param damagedFontPath a file that is no font
-    Client(unsigned int seed, std::string damagedFontPath);
+    static constexpr unsigned int largestSide = 640;
+
+    explicit Client(unsigned int seed);
 
     /// Does one random thing that clients do: mostly a frame.
     /// @param mayLose whether the window may be lost
@@ -42,6 +43,7 @@ private:
     };
 
     void OpenWindow();
+    void ResizeWindow(const tagZoRectInfo& size);
     void Bind();
     void BindOther();
     void Lose();
@@ -50,23 +52,21 @@ private:
     void Blit();
     void DrawText();
     void ShowBitmap(unsigned int width, unsigned int height);
-    void CreateBuffer(unsigned int width, unsigned int height);
-    void CreateAnyBuffer();
+    void CreateBuffer(const tagZoRectInfo& size);
     void DestroyBuffer(size_t index);
     void LoadAnyFont();
     void LoadFont(const char* path, unsigned int size);
-    void CallInError();
     void CheckPixel();
 
     unsigned int AnyBelow(unsigned int end) { return static_cast<unsigned int>(random() % end); }
     bool OneIn(unsigned int count) { return AnyBelow(count) == 0; }
     const Buffer& AnyBuffer();
     tagZoRectInfo AnyRect(unsigned int width, unsigned int height);
+    tagZoRectInfo AnySize() { return AnyRect(largestSide, largestSide); }
     tagZoColorRGBA AnyColor();
     tagZoTextInfo AnyText();
 
     std::mt19937 random;
-    std::string damagedFont;
     Display* display; ///< stays open until the process ends, so that windows outlive the surface
     Window window = 0;
     ZoGLDrawSurface surface;

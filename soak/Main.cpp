@@ -17,15 +17,12 @@ constexpr int stepsBetweenRests = 50;
 // In the first half the window stays bound, so that only what grows within one context can grow. In
 // the second half the window is lost at every rest, and between them.
 void Soak(double seconds, const std::string& folder) {
-    const std::string damagedFont = folder + "/damaged.ttf";
-    std::ofstream(damagedFont) << std::string("\0\1\0\0\0\x13", 6) << std::string(1000, '?');
     std::ofstream file(folder + "/samples.tsv");
     file << "stage\tseconds\tresident_kib\theld_kib\theap_kib\tdescriptors\tgl_objects\n";
-    Client client(seed, damagedFont);
+    Client client(seed);
     const Counts& counts = client.GetCounts();
     const auto start = std::chrono::steady_clock::now();
     double nextSample = 0;
-    double nextLine = 0;
     for (double now = 0; now < seconds;) {
         const bool loses = now >= seconds / 2;
         for (int i = 0; i < stepsBetweenRests; ++i) {
@@ -39,14 +36,11 @@ void Soak(double seconds, const std::string& folder) {
             file << (loses ? "losing" : "bound") << '\t' << now << '\t' << sample.resident << '\t'
                  << sample.held << '\t' << sample.heap << '\t' << sample.descriptors << '\t'
                  << sample.objects << std::endl; // flushed, to keep the samples of a crash
-        }
-        if (now >= nextLine || now >= seconds) {
-            nextLine = now + 10;
-            printf("%.0f s: %ld frames, %ld texts, %ld fonts, %ld losses\n", now, counts.frames,
-                   counts.texts, counts.fonts, counts.losses);
-            fflush(stdout);
+            fprintf(stderr, "\r%.0f s: %ld frames, %ld texts, %ld fonts, %ld losses ", now,
+                    counts.frames, counts.texts, counts.fonts, counts.losses);
         }
     }
+    fputc('\n', stderr);
 }
 
 } // namespace

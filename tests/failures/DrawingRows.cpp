@@ -38,24 +38,13 @@ Log InitFails(const Drawing& drawing, int code, Log before) {
     return before;
 }
 
-void WithoutPool(C& c) {
-    c.WithFont();
-    c.surface->fboManager.reset();
-}
-
-void ExpectSizeUntouched(C& c) {
-    EXPECT_TRUE(c.size[0] == c.untouched && c.size[1] == c.untouched);
-}
-
 Rows NullRows() {
     Rows rows;
     for (const Drawing& drawing : drawings) {
         std::istringstream parts(drawing.pointers);
         for (std::string part; parts >> part;) { // unbound: nothing may be created
-            rows.push_back(Row(
-                drawing.name + "_null_" + part, {}, [part](C& c) { c.missing = part; }, drawing.run,
-                ZO_INVALID_PARAM, {SurfaceLine("param is nullptr\n")}, "", ExpectSizeUntouched,
-                &C::Bound));
+            rows.push_back(Row(drawing.name + "_null_" + part, {}, Without(part), drawing.run,
+                               ZO_INVALID_PARAM, {SurfaceLine("param is nullptr\n")}));
         }
     }
     return rows;
@@ -63,22 +52,22 @@ Rows NullRows() {
 
 Rows HandleRows() {
     const Log log = {SurfaceLine("There is not the fbo\n")};
-    const Step expectOneFill = [](C& c) { EXPECT_EQ(c.calls.size(), 1U); };
     Rows rows;
     for (const unsigned int handle : {0U, 1U, 0x10009U, 0x20000U, ZO_NO_HANDLE}) {
         const std::string suffix = "_unknown_handle_" + std::to_string(handle);
         const Step spoil = [handle](C& c) { c.handle = c.blit.dstHandle = handle; };
         const Step spoilSource = [handle](C& c) { c.blit.srcHandle = handle; };
+        const auto add = [&](const std::string& name, const Step& fault, const Operation& run) {
+            rows.push_back({name + suffix, &C::Bound, fault, run, ZO_INVALID_PARAM, log});
+            rows.push_back(
+                {name + suffix + "_unbound", {}, fault, run, ZO_INVALID_PARAM, log, "+pool "});
+        };
         for (const Drawing& drawing : drawings) {
             if (drawing.needsPool) {
-                rows.push_back(
-                    {drawing.name + suffix, &C::Bound, spoil, drawing.run, ZO_INVALID_PARAM, log});
-                rows.push_back(Row(drawing.name + "_unbound" + suffix, {}, spoil, drawing.run,
-                                   ZO_INVALID_PARAM, log, "+pool ", {}, &C::Bound));
+                add(drawing.name, spoil, drawing.run);
             }
         }
-        rows.push_back(Row("blit_source" + suffix, &C::Bound, spoilSource, &C::Blit,
-                           ZO_INVALID_PARAM, log, "", expectOneFill));
+        add("blit_source", spoilSource, &C::Blit);
     }
     return rows;
 }
@@ -87,30 +76,26 @@ Rows HandleRows() {
 Rows RefusalRows(const Drawing& drawing) {
     const harness::LogLine noMemory = SurfaceLine("out of memory\n");
     Rows rows;
+    const auto add = [&](const std::string& name, const Step& prepare, const Step& fault, int code,
+                         const Log& log, const char* change) {
+        rows.push_back({drawing.name + name, prepare, fault, drawing.run, code, log, change});
+    };
     for (const char hasRenderer : drawing.fills) {
         const int fill = static_cast<int>(rows.size()) + 1;
-        rows.push_back(Row(drawing.name + "_record_" + std::to_string(fill) + "_not_zeroed",
-                           &C::WithFont, Fail("memset_s", fill), drawing.run, ZO_FAILURE,
-                           {SurfaceLine("memset_s_func failed, rc = 34")},
-                           hasRenderer == 'y' ? drawing.renderer : "", ExpectSizeUntouched));
+        add("_record_" + std::to_string(fill) + "_not_zeroed", &C::WithFont, Fail("memset_s", fill),
+            ZO_FAILURE, {SurfaceLine("memset_s_func failed, rc = 34")},
+            hasRenderer == 'y' ? drawing.renderer : "");
     }
-    rows.push_back(Row(drawing.name + "_no_memory_for_renderer", &C::WithFont, RefuseAllocation(1),
-                       drawing.run, ZO_FAILURE, InitFails(drawing, ZO_FAILURE, {noMemory})));
+    add("_no_memory_for_renderer", &C::WithFont, RefuseAllocation(1), ZO_FAILURE,
+        InitFails(drawing, ZO_FAILURE, {noMemory}), "");
     if (drawing.needsPool) {
-        rows.push_back(Row(drawing.name + "_no_memory_for_pool", WithoutPool, RefuseAllocation(1),
-                           drawing.run, ZO_FAILURE, {noMemory}));
+        add("_no_memory_for_pool", &C::WithoutPool, RefuseAllocation(1), ZO_FAILURE, {noMemory},
+            "");
     }
     if (drawing.tag != drawings[4].tag) { // text loads the default font first
-        rows.push_back(
-            {drawing.name + "_never_bound",
-             {},
-             {},
-             drawing.run,
-             ZO_PROGRAM_FAILED,
-             InitFails(drawing, ZO_PROGRAM_FAILED, {Line("ShaderProgram", "Create shader fail\n")}),
-             drawing.needsPool ? "+pool " : "",
-             {},
-             &C::Bound});
+        add("_never_bound", {}, {}, ZO_PROGRAM_FAILED,
+            InitFails(drawing, ZO_PROGRAM_FAILED, {Line("ShaderProgram", "Create shader fail\n")}),
+            drawing.needsPool ? "+pool " : "");
     }
     return rows;
 }
@@ -140,22 +125,18 @@ Rows EmptyTargetRows() {
     Rows rows;
     for (const auto& [name, side] : {std::pair("width", &tagFrameBuffObject::width),
                                      std::pair("height", &tagFrameBuffObject::height)}) {
-        const auto setSide = [side = side](C& c, int pixels) {
-            c.surface->fboManager->slots[0].*side = pixels;
-        };
-        const Step prepare = [=](C& c) {
+        const Step prepare = [side = side](C& c) {
             c.WithAll();
             c.DrawText();
-            setSide(c, 0);
+            c.surface->fboManager->slots[1].*side = 0;
         };
-        const Step restore = [=](C& c) { setSide(c, 100); };
-        rows.push_back(Row(std::string("rect_target_without_") + name, prepare, {}, &C::DrawRect,
-                           ZO_SUCCESS, {}, "", expectNoExtent, restore));
-        rows.push_back(Row(std::string("text_target_without_") + name, prepare, {}, &C::DrawText,
-                           ZO_INVALID_PARAM,
+        const Step useBuffer = Set(&Request::handle, 0x10001U);
+        rows.push_back(Row(std::string("rect_target_without_") + name, prepare, useBuffer,
+                           &C::DrawRect, ZO_SUCCESS, {}, "", expectNoExtent));
+        rows.push_back(Row(std::string("text_target_without_") + name, prepare, useBuffer,
+                           &C::DrawText, ZO_INVALID_PARAM,
                            {Line("OSDText", "Param is invalid\n"),
-                            Line("OSDText", "get font alpha texture fail 101\n")},
-                           "", {}, restore));
+                            Line("OSDText", "get font alpha texture fail 101\n")}));
     }
     return rows;
 }
@@ -163,7 +144,7 @@ Rows EmptyTargetRows() {
 Rows UnknownFormatRows() {
     const Step expectPicture = [](const C& c) {
         const int height = static_cast<int>(c.surface->ZoGetWindowHeight());
-        EXPECT_EQ(ReadPixels(8, height).At(7, 7), (Pixel{255, 255, 255, 255}));
+        EXPECT_EQ(ReadPixels(8, height).At(7, 7), (Pixel{200, 100, 50, 255}));
     };
     return {Row(
         "bitmap_unknown_format", &C::Bound, [](C& c) { c.bitmap.format = -1; }, &C::DisplayBitmap,

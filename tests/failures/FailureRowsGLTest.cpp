@@ -1,9 +1,10 @@
 // Under each condition the operation fails as the row says, and without the condition it works.
 
 #include "FailureRows.h"
+#include "platform/Log.h"
 
+#include <algorithm>
 #include <iterator>
-#include <regex>
 
 namespace {
 
@@ -18,12 +19,10 @@ std::string Change(const std::set<std::string>& before, const std::set<std::stri
     return change;
 }
 
-Log TakeLog() {
-    const std::regex chosen("(EGL v|GL Version = |GL Vendor = |GL Renderer = )[^\n]+");
+Log TakeLogAboveVerbose() {
     Log log = harness::TakeLog();
-    for (harness::LogLine& line : log) {
-        line.text = std::regex_replace(line.text, chosen, "$1#");
-    }
+    const auto isVerbose = [](const harness::LogLine& line) { return line.priority <= LogVerbose; };
+    log.erase(std::remove_if(log.begin(), log.end(), isVerbose), log.end());
     return log;
 }
 
@@ -54,6 +53,18 @@ void ConditionGLTest::Restore() {
     harness::Reset();
     harness::Current().fontFile = ZOGLES_TEST_FONT;
     UseFakeFont({{65, 4, 3, 0, 3, 4}, {66, 4, 3, 0, 3, 4}});
+}
+
+void ConditionGLTest::EndCondition() {
+    Restore();
+    if (!surface->surfaceCreated) {
+        Bind();
+    }
+    for (const unsigned int number : {7U, 8U, 9U}) { // known only where rows use up the handles
+        surface->ZoDestoryGLFBO(0x10000 + number);
+        surface->ZoDestoryGLFBO(0x20000 + number);
+    }
+    harness::TakeLog();
 }
 
 std::set<std::string> ConditionGLTest::State() const {
@@ -104,15 +115,9 @@ void ConditionGLTest::WindowLost() {
     surface->ZoDestoryGLWindowSurface();
 }
 
-int ConditionGLTest::Measure() {
-    text.text = Given("units", text.text);
-    return surface->ZoGetTextSize(Given("info", &text), Given("width", &size[0]),
-                                  Given("height", &size[1]));
-}
-
-int ConditionGLTest::DrawText() {
-    text.text = Given("units", text.text);
-    return surface->ZoDrawText(handle, Given("info", &text), Given("rect", &all));
+void ConditionGLTest::WithoutPool() {
+    Bind();
+    surface->fboManager.reset();
 }
 
 TEST_P(ConditionGLTest, Holds) {
@@ -123,7 +128,7 @@ TEST_P(ConditionGLTest, Holds) {
     const std::set<std::string> before = State();
     const std::string live = harness::DescribeLive();
     const int draws = CountDraws();
-    drawnTexture = surface->osdText ? surface->osdText->fontTexture : 0;
+    const GLuint texture = DrawnTexture();
     int code = -1;
     calls = harness::Record([&] {
         take(row.fault);
@@ -131,22 +136,24 @@ TEST_P(ConditionGLTest, Holds) {
     });
     harness::RefuseAllocation(0);
     EXPECT_EQ(code, row.code);
-    EXPECT_EQ(TakeLog(), row.log);
+    EXPECT_EQ(TakeLogAboveVerbose(), row.log);
     EXPECT_EQ(Change(before, State()), row.change);
     EXPECT_TRUE(harness::DescribeLive() == live || !row.change.empty()) << harness::DescribeLive();
-    EXPECT_TRUE(CountDraws() == draws || row.code == ZO_SUCCESS);
+    EXPECT_TRUE(surface->eglManager || harness::DescribeLive().empty());
+    if (row.code != ZO_SUCCESS) {
+        EXPECT_EQ(CountDraws(), draws);
+        EXPECT_EQ(DrawnTexture(), texture);
+        EXPECT_TRUE(size[0] == untouched && size[1] == untouched);
+    }
     for (const std::string& call : calls) {
         EXPECT_TRUE(call.find("memset_s") == 0 || row.code != ZO_INVALID_PARAM) << call;
     }
     take(row.check);
 
-    Restore();
-    take(row.end);
-    harness::TakeLog();
-    EXPECT_EQ(row.run(*this), row.again);
+    EndCondition();
+    EXPECT_EQ(row.run(*this), ZO_SUCCESS);
     const Log log = harness::TakeLog();
-    EXPECT_TRUE(row.again != ZO_SUCCESS || std::none_of(log.begin(), log.end(), IsComplaint));
-    harness::TakeLog();
+    EXPECT_TRUE(std::none_of(log.begin(), log.end(), IsComplaint));
     ExpectUsable();
 }
 

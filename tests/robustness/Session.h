@@ -3,19 +3,10 @@
 #ifndef ZOGLES_TESTS_ROBUSTNESS_SESSION_H
 #define ZOGLES_TESTS_ROBUSTNESS_SESSION_H
 
-#include "support/SurfaceFixture.h"
+#include "support/DocumentedCodes.h"
+#include "support/RequestFixture.h"
 
-#include <initializer_list>
-#include <vector>
-
-/// What the client of a session holds.
-struct Client {
-    ZoGLDrawSurface* surface;
-    ANativeWindow* window;
-    ANativeWindow* otherWindow;
-    unsigned int left = ZO_NO_HANDLE;
-    unsigned int right = ZO_NO_HANDLE;
-};
+class SessionFixture;
 
 /// What a step draws on.
 enum class Drawing { None, Left, Right, Window };
@@ -23,8 +14,8 @@ enum class Drawing { None, Left, Right, Window };
 /// One operation of a session.
 struct Step {
     const char* name;
-    int (*run)(Client& client);       ///< returns the operation's code; ZO_SUCCESS if it has none
-    std::initializer_list<int> codes; ///< documented for the operation
+    std::function<int(SessionFixture&)> run; ///< returns the operation's code
+    Codes codes;                             ///< documented for the operation
     Drawing drawing = Drawing::None;
 };
 using Session = std::vector<Step>;
@@ -43,15 +34,19 @@ constexpr size_t charactersOfFont = 3;
 ///
 /// Fonts map a few characters only: an outline; one that is a 1-bit image, as old fonts have them; one
 /// that is an 8-bit image even when emboldened.
-class SessionFixture : public SurfaceFixture {
-protected:
+class SessionFixture : public RequestFixture {
+public:
     void SetUp() override;
+
+    /// Runs a step with a fresh request.
+    int Run(const Step& step);
 
     /// The pixels of what a step draws on.
     Image Look(Drawing drawing);
 
     TestWindow otherWindow{windowWidth / 2, windowHeight / 2};
-    Client client = {};
+    unsigned int left = ZO_NO_HANDLE;
+    unsigned int right = ZO_NO_HANDLE;
 };
 
 #endif
