@@ -43,16 +43,3 @@ void UseFakeFont(std::vector<FakeGlyph> glyphs) {
         return 0;
     };
 }
-
-void UseFirst(int characters) {
-    const auto count = std::make_shared<int>(0);
-    harness::Current().loadChar = FT_Load_Char;
-    harness::Current().firstChar = [=](FT_Face face, FT_UInt* index) {
-        *count = 1;
-        return FT_Get_First_Char(face, index);
-    };
-    harness::Current().nextChar = [=](FT_Face face, FT_ULong code, FT_UInt* index) {
-        *index = 0;
-        return ++*count > characters ? 0 : FT_Get_Next_Char(face, code, index);
-    };
-}

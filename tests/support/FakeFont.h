@@ -26,7 +26,4 @@ void UseCharacters(const std::vector<unsigned long>& codes);
 /// The same, with these glyphs in place of the font's.
 void UseFakeFont(std::vector<FakeGlyph> glyphs);
 
-/// From now on every face maps only its first characters, to load faster.
-void UseFirst(int characters);
-
 #endif

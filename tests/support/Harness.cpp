@@ -67,11 +67,7 @@ void AddLive(const char* kind, size_t object) {
 }
 
 void RemoveLive(const char* kind, size_t object) {
-    std::multiset<size_t>& objects = Current().live[kind];
-    const auto found = objects.find(object);
-    if (found != objects.end()) {
-        objects.erase(found);
-    }
+    Current().live[kind].extract(object);
 }
 
 void* NextSymbol(const char* name) {

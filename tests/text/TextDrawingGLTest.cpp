@@ -9,7 +9,9 @@ protected:
     // Whether the vertices from `first` on are zero.
     static bool IsZeroFrom(long first) {
         return std::all_of(Vertices().begin() + first, Vertices().end(),
-                           [](const harness::Vertex& v) { return v == harness::Vertex(); });
+                           [](const harness::Vertex& v) {
+                               return v == harness::Vertex{0, 0, 0, 0};
+                           });
     }
 
     static Calls Create(GLenum unit, GLuint texture, int columns, int rows) {
