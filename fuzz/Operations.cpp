@@ -34,6 +34,7 @@ public:
         : input(data, size), surface(std::make_unique<ZoGLDrawSurface>()) {}
 
     void Run() {
+        // Text has the most states.
         constexpr void (Session::*steps[])() = {
             &Session::Bind,          &Session::Lose,         &Session::Init,
             &Session::Refresh,       &Session::CreateBuffer, &Session::DestroyBuffer,
