@@ -105,7 +105,7 @@ Case FrameCase(Stage& stage) {
         fills.push_back(ToFloats(tile.color));
     }
     std::vector<Baseline::Color> inks;
-    for (const Line& line : frame.lines) {
+    for (const TextLine& line : frame.lines) {
         inks.push_back(ToFloats(line.color));
     }
     return OnWindow(Pair(

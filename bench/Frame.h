@@ -28,7 +28,7 @@ struct Copy {
     tagZoRectInfo dst;
 };
 
-struct Line {
+struct TextLine {
     std::string text;      ///< ASCII without spaces: libzogles draws nothing for a space
     unsigned int x;        ///< where the first glyph starts
     unsigned int baseline; ///< pixels from the top
@@ -53,7 +53,7 @@ struct Frame {
     std::vector<Tile> sourceTiles; ///< what the source buffer holds before the first frame
     std::vector<Tile> rectangles;
     std::vector<Copy> copies;
-    std::vector<Line> lines;           ///< 20 rows in two columns, which overlap
+    std::vector<TextLine> lines;       ///< 20 rows in two columns, which overlap
     std::vector<unsigned char> bitmap; ///< opaque RGBA pixels
 
     Frame() {
@@ -72,7 +72,7 @@ struct Frame {
                               {60 + i % 4 * 310, 90 + i / 4 * 360, 200, 100}});
         }
         for (unsigned int i = 0; i < 40; ++i) {
-            std::string text = "Line";
+            std::string text = "TextLine";
             while (text.size() < 30) {
                 const size_t step = size_t{i} * 11 + text.size() * 7;
                 text += static_cast<char>(firstGlyph + step % (lastGlyph - firstGlyph + 1));

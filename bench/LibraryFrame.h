@@ -16,7 +16,7 @@ public:
         for (const Copy& copy : frame.copies) {
             blits.push_back({source, composed, copy.src, copy.dst});
         }
-        for (const Line& line : frame.lines) {
+        for (const TextLine& line : frame.lines) {
             texts.emplace_back(line.text.begin(), line.text.end());
         }
         for (size_t i = 0; i < texts.size(); ++i) {

@@ -27,7 +27,7 @@ void DrawTiles(SDL_Renderer* renderer, const std::vector<Tile>& tiles) {
     }
 }
 
-SDL_Texture* RenderLine(SDL_Renderer* renderer, TTF_Font* font, const Line& line) {
+SDL_Texture* RenderLine(SDL_Renderer* renderer, TTF_Font* font, const TextLine& line) {
     SDL_Surface* rendered = TTF_RenderUTF8_Blended(font, line.text.c_str(), ToColor(line.color));
     SDL_Texture* texture = SDL_CreateTextureFromSurface(renderer, rendered);
     SDL_FreeSurface(rendered);
@@ -35,7 +35,7 @@ SDL_Texture* RenderLine(SDL_Renderer* renderer, TTF_Font* font, const Line& line
     return texture;
 }
 
-void CopyLine(SDL_Renderer* renderer, TTF_Font* font, const Line& line, SDL_Texture* texture) {
+void CopyLine(SDL_Renderer* renderer, TTF_Font* font, const TextLine& line, SDL_Texture* texture) {
     SDL_Rect place = {static_cast<int>(line.x),
                       static_cast<int>(line.baseline) - TTF_FontAscent(font), 0, 0};
     SDL_QueryTexture(texture, nullptr, nullptr, &place.w, &place.h);
@@ -48,7 +48,7 @@ class GlyphAtlas {
 public:
     GlyphAtlas(SDL_Renderer* usedRenderer, TTF_Font* font)
         : renderer(usedRenderer), ascent(TTF_FontAscent(font)) {
-        Line all = {"", 0, 0, {255, 255, 255, 255}};
+        TextLine all = {"", 0, 0, {255, 255, 255, 255}};
         for (char c = firstGlyph; c <= lastGlyph; ++c) {
             all.text += c;
             int left = 0;
@@ -62,10 +62,10 @@ public:
         SDL_QueryTexture(texture, nullptr, nullptr, &width, &height);
     }
 
-    void Draw(const std::vector<Line>& lines) {
+    void Draw(const std::vector<TextLine>& lines) {
         vertices.clear();
         indices.clear();
-        for (const Line& line : lines) {
+        for (const TextLine& line : lines) {
             int x = static_cast<int>(line.x);
             for (const char c : line.text) {
                 AddGlyph(c - firstGlyph, x, static_cast<int>(line.baseline) - ascent,
@@ -151,7 +151,7 @@ int main(int argc, char** argv) {
     const std::string variant = argc > 1 ? argv[1] : "";
     if (variant == "sdl-cached") {
         std::vector<SDL_Texture*> textures;
-        for (const Line& line : frame.lines) {
+        for (const TextLine& line : frame.lines) {
             textures.push_back(RenderLine(renderer, font, line));
         }
         drawLines = [renderer, font, &frame, textures] {
@@ -166,7 +166,7 @@ int main(int argc, char** argv) {
     } else {
         Require(variant == "sdl-anew", "a name of sdl-cached, sdl-atlas or sdl-anew");
         drawLines = [renderer, font, &frame] {
-            for (const Line& line : frame.lines) {
+            for (const TextLine& line : frame.lines) {
                 SDL_Texture* texture = RenderLine(renderer, font, line);
                 CopyLine(renderer, font, line, texture);
                 SDL_DestroyTexture(texture);
