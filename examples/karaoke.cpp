@@ -97,12 +97,8 @@ struct Karaoke {
 
 // A bitmap clears the window, so it comes first.
 void ShowPicture(ZoGLDrawSurface& surface, const Picture& picture) {
-    tagZoBitmapInfo bitmap = {};
-    bitmap.data = picture.rgba.data();
-    bitmap.format = ZO_FORMAT_RGBA8888;
-    bitmap.width = picture.width;
-    bitmap.height = picture.height;
-    bitmap.rect = all;
+    const tagZoBitmapInfo bitmap = {picture.rgba.data(), ZO_FORMAT_RGBA8888, 0,  0,
+                                    picture.width,       picture.height,     all};
     Check("bitmap", surface.ZoDisplayBitmap(&bitmap));
 }
 
