@@ -110,12 +110,8 @@ void Canvas::Present(unsigned int buffer, const Rect& part) {
 }
 
 void Canvas::ShowPicture(const Picture& picture, const Rect& rect) {
-    tagZoBitmapInfo info{};
-    info.data = picture.rgba.data();
-    info.format = ZO_FORMAT_RGBA8888;
-    info.width = picture.width;
-    info.height = picture.height;
-    info.rect = ToRecord(rect);
+    const tagZoBitmapInfo info = {picture.rgba.data(), ZO_FORMAT_RGBA8888, 0, 0, picture.width,
+                                  picture.height,      ToRecord(rect)};
     Check(surface.ZoDisplayBitmap(&info), "showing a picture");
 }
 

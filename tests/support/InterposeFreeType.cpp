@@ -47,6 +47,8 @@ extern "C" FT_Error FT_Init_FreeType(FT_Library* library) {
     const FT_Error error = isFailing ? injectedError : real(library);
     if (error == 0) {
         harness::AddLive("FreeType library", *library);
+    } else { // the library must not use the output of a failed call
+        *library = reinterpret_cast<FT_Library>(library);
     }
     return error;
 }
@@ -62,6 +64,8 @@ extern "C" FT_Error FT_New_Face(FT_Library library, const char* path, FT_Long in
     const FT_Error error = isFailing ? injectedError : real(library, opened, index, face);
     if (error == 0) {
         harness::AddLive("FreeType face", *face);
+    } else {
+        *face = reinterpret_cast<FT_Face>(face);
     }
     return error;
 }
