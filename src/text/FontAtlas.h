@@ -31,7 +31,7 @@ public:
     /// @return ZO_SUCCESS, ZO_FONT_ATLAS_EMPTY or ZO_FAILURE
     int LoadFont(FT_Face face, unsigned int size);
 
-    /// Finds the texture's size for the face's characters at its present size.
+    /// Finds the texture's size for the face's characters at its current size.
     /// @return ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
     int CalculateTexSize(FT_Face face);
 
