@@ -59,7 +59,7 @@ bool UploadGlyph(FT_GlyphSlot glyph, unsigned int x, unsigned int y);
 /// If there is a texture, deletes it, clears the records and sets the size to 0.
 void DropAtlas(GLuint& texture, unsigned int& width, unsigned int& height, GlyphMap& glyphs);
 
-/// The record of the slot's glyph, whose cell is at (x, y) of an atlas of `width` by `height` pixels.
+/// The record of the slot's glyph in an atlas of `width` by `height` pixels, with its cell at (x, y).
 tagGlyphInfo DescribeGlyph(FT_GlyphSlot glyph, int x, int y, unsigned int width,
                            unsigned int height);
 
