@@ -47,7 +47,10 @@ for (const name of Object.keys(losses)) {
             await playground.run('ZoDrawRect');
             await lose(name);
             const facts = await page.locator('#loss-facts').innerText();
-            assert.match(facts, /10 of 10 buffers.*transparent black.*measuring a text gives 31/s);
+            assert.match(
+                facts,
+                /10 of 10 buffers.*transparent black.*measuring a text returns 31/s,
+            );
             assert.equal((await playground.pixel(100, 100))[0], '0 0 0 0');
             assert.deepEqual(await playground.windowPixels(), before);
             counts.push(await page.evaluate(() => /** @type {any} */ (window).countLiveObjects()));
