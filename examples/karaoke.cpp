@@ -76,7 +76,7 @@ struct Karaoke {
         return buffer;
     }
 
-    // How far a line has been sung, in pixels.
+    // The width of a line's sung part, in pixels.
     unsigned int GetSweep(unsigned int line, unsigned int time) const {
         unsigned int sweep = 0;
         for (const Word& word : song) {

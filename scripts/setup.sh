@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# The other scripts source this file before anything else. It stops the script at the first error and
+# The other scripts source this file first. It stops the script at the first error and
 # changes to the project's folder; the caller's folder is in OLDPWD. With --help, it prints the
 # script's opening comment and exits. It also defines functions that several scripts need.
 set -euo pipefail

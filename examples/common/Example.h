@@ -1,4 +1,4 @@
-// What the examples share: result codes, the options, and a text record.
+// Code that the examples share: the check of result codes, the options, and a text record.
 #ifndef EXAMPLES_COMMON_EXAMPLE_H
 #define EXAMPLES_COMMON_EXAMPLE_H
 

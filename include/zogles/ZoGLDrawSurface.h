@@ -313,7 +313,7 @@ public:
     /// @param size glyph height in pixels for standard text and for measuring; 0 means 40
     /// @pre the surface is bound
     /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null path, which changes nothing; or a font code
-    ///     (30 to 32) or ZO_FAILURE, which drop the previous font. Until a font is loaded, text
+    ///     (30 to 32) or ZO_FAILURE, which unload the previous font. Until a font is loaded, text
     ///     draws nothing: standard text returns ZO_SUCCESS and measures 30 pixels per unit, styled
     ///     text returns ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
     int ZoLoadFont(const char* path, unsigned int size);

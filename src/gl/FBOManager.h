@@ -44,7 +44,7 @@ Entry* FindEntry(Entry (&entries)[Count], unsigned int handle) {
 ///
 /// Slot 0 is the window under ZO_WINDOW_HANDLE; slots 1 to 15 hold the off-screen buffers, each a
 /// texture attached to a framebuffer object, both owned by the pool. A restored buffer keeps its
-/// handle, whatever slot it gets. New handles differ from all handles in use.
+/// handle in any slot. New handles differ from all handles in use.
 class ZOGLES_API FBOManager {
 public:
     static constexpr int slotCount = 16;

@@ -1,5 +1,5 @@
 /// @file
-/// What both atlases share: creating the texture and filling it with glyphs.
+/// Code that both atlases share: creates the texture and fills it with glyphs.
 #ifndef ZOGLES_TEXT_GLYPHTEXTURE_H
 #define ZOGLES_TEXT_GLYPHTEXTURE_H
 

@@ -6,7 +6,7 @@ import { mkdirSync } from 'node:fs';
 import { after, afterEach, before } from 'node:test';
 import { chromium } from 'playwright-core';
 
-/** Where the playground is served, and where screenshots go: set by scripts/web --test. */
+/** The playground's address and the folder for screenshots, both set by scripts/web --test. */
 export const address = process.env.PLAYGROUND_ADDRESS ?? 'http://localhost:8000/';
 export const pictures = process.env.PLAYGROUND_PICTURES ?? 'out/web-test';
 
