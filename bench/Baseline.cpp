@@ -114,7 +114,7 @@ Baseline::Baseline(size_t longestText)
 }
 
 Baseline::~Baseline() {
-    FT_Done_FreeType(freetype); // and its faces
+    FT_Done_FreeType(freetype); // also closes its faces
 }
 
 Target Baseline::CreateTarget(int width, int height) {

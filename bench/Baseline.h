@@ -66,10 +66,10 @@ public:
     void DrawText(const Target& target, const tagZoTextInfo& text, const Color& color,
                   unsigned int x, unsigned int y);
 
-    /// Loads the font by the library's code: only drawing is written by hand.
+    /// Loads the font with the library's code: only drawing is written by hand.
     void LoadFont(const char* path, unsigned int size);
 
-    /// FreeType's part of loading a font and of drawing styled text with the loaded font.
+    /// The FreeType calls of loading a font, and of drawing styled text with the loaded font.
     void RenderFont(const char* path, unsigned int size) const;
     void RenderStyled(const tagZoTextInfo& text) const;
 
@@ -82,7 +82,7 @@ private:
     GLint textTexture;
     GLuint rectBuffer;
     GLuint textBuffer;
-    Quad blitQuad; ///< one for each operation, as in the library
+    Quad blitQuad; ///< one per operation, as in the library
     Quad frameQuad;
     Quad bitmapQuad;
     std::vector<Vertex> vertices;

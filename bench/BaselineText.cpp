@@ -1,4 +1,4 @@
-// Text by hand, six vertices a glyph, and the FreeType calls behind fonts and styled text.
+// Text by hand, with six vertices per glyph, and the FreeType calls of fonts and styled text.
 
 #include "Baseline.h"
 
@@ -52,7 +52,7 @@ void Baseline::RenderStyled(const tagZoTextInfo& text) const {
     FT_Set_Pixel_Sizes(face, 0, text.fontSize);
     FT_Matrix matrix = slant;
     FT_Set_Transform(face, text.italic != 0 ? &matrix : nullptr, nullptr);
-    for (unsigned int i = 0; i < 2 * text.length; ++i) { // in two passes
+    for (unsigned int i = 0; i < 2 * text.length; ++i) { // the library renders in two passes
         const FT_ULong unit = text.text[i % text.length];
         if (text.bold != 0) {
             FT_Load_Char(face, unit, FT_LOAD_DEFAULT);

@@ -204,7 +204,7 @@ std::vector<Case> GrowthCases(Stage& stage, const std::regex& wanted, Stages* mo
             cases.push_back(
                 TextCase(addStage(largeFontPath, characters, 2), "growth/font/" + number, 30));
         }
-        // On the common stage: the glyphs that it has afterwards cost the same to draw.
+        // Uses the common stage, because drawing costs the same with the glyphs loaded here.
         cases.push_back(LoadCase(stage, "growth/load/" + number, largeFontPath, characters));
     }
     return cases;

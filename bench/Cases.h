@@ -1,5 +1,5 @@
 /// @file
-/// What is measured: each case with its sides.
+/// The benchmark cases.
 #ifndef ZOGLES_BENCH_CASES_H
 #define ZOGLES_BENCH_CASES_H
 
@@ -14,15 +14,15 @@
 /// One way of doing the work: "library", "baseline", or "freetype" for FreeType's calls alone.
 struct Side {
     std::string name;
-    std::function<void(int)> run; ///< does the work so many times
+    std::function<void(int)> run; ///< repeats the work this many times
     bool isWarm = false;
 };
 
 /// The same work done in several ways.
 struct Case {
     std::string name;
-    int batch;       ///< how often the work is done between two readings of the clock
-    bool isOnWindow; ///< whether it draws on the window, else on the first buffer
+    int batch;       ///< repetitions between two readings of the clock
+    bool isOnWindow; ///< draws on the window instead of the first buffer
     std::vector<Side> sides;
 };
 
@@ -32,12 +32,12 @@ using Stages = std::vector<std::unique_ptr<Stage>>;
 /// @param characters how many characters of its font are loaded; 0 means all
 std::vector<Case> BasicCases(Stage& stage, unsigned int characters);
 
-/// Cost against the length of the text, the characters of the font and the number of buffers. Each
-/// of the last two kinds has a stage, made only if the case is wanted and kept in `more`. Those
-/// stages are bound at the same time, so they need a program without a driver.
+/// Cases that vary the length of the text, the characters of the font, or the number of buffers.
+/// Cases of the last two kinds have their own stages, created only if wanted and kept in `more`.
+/// These stages are bound at the same time, so they need a program without a driver.
 std::vector<Case> GrowthCases(Stage& stage, const std::regex& wanted, Stages* more);
 
-/// Does the work once before the first measurement, so that nothing is made on first use.
+/// Does the work once, so that the first measurement creates nothing.
 void WarmUp(Side& side);
 
 #endif

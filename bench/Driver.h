@@ -1,5 +1,5 @@
 /// @file
-/// What differs between the programs: the window, and whether there is a driver behind GL.
+/// The differences between the programs: the window, and whether GL has a driver.
 #ifndef ZOGLES_BENCH_DRIVER_H
 #define ZOGLES_BENCH_DRIVER_H
 
@@ -9,7 +9,7 @@ constexpr int windowWidth = 1280;
 constexpr int windowHeight = 720;
 constexpr tagZoRectInfo wholeWindow = {0, 0, windowWidth, windowHeight};
 
-/// Whether GL draws. Without a driver, several surfaces can be bound at once.
+/// False if GL's functions are empty. Then several surfaces can be bound at once.
 extern const bool hasDriver;
 
 /// Opens a window of the size above.

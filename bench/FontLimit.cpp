@@ -1,4 +1,4 @@
-// Fonts cut to their first characters, so that one font file gives atlases of every size.
+// Limits fonts to their first characters, so that one font file gives atlases of every size.
 
 #include "Driver.h"
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-// The interposed functions have no other way to learn these.
+// Globals, because the interposed functions have fixed parameters.
 unsigned int limit = 0;
 unsigned int enumerated = 0;
 

@@ -4,11 +4,11 @@
 /// a 256x256 bitmap is uploaded and drawn on the window; the window is cleared and the buffer
 /// presented on it with blending.
 ///
-/// libzogles shows client bitmaps only on the window, and its presentation clears the window. So
-/// that all do the same work and end with the same picture, everybody draws the bitmap and wipes it.
+/// libzogles shows client bitmaps only on the window, and its presentation clears the window. All
+/// others also draw the bitmap and clear it, so that work and picture are the same.
 ///
-/// The rectangles are opaque and cover the buffer: each library blends alpha differently, and the
-/// pictures would show that difference instead of what was drawn.
+/// The rectangles are opaque and cover the buffer, because each library blends alpha differently and
+/// the pictures would differ.
 #ifndef ZOGLES_BENCH_FRAME_H
 #define ZOGLES_BENCH_FRAME_H
 
@@ -22,7 +22,7 @@ struct Tile {
     tagZoColorRGBA color;
 };
 
-/// A region copied out of the source buffer in its size.
+/// A region copied from the source buffer without scaling.
 struct Copy {
     tagZoRectInfo src;
     tagZoRectInfo dst;
@@ -35,7 +35,7 @@ struct TextLine {
     tagZoColorRGBA color;
 };
 
-/// A font of one advance for all glyphs: differences in kerning cannot shift anything.
+/// A monospaced font, so that differences in kerning cannot shift glyphs.
 constexpr char frameFontPath[] = "/usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf";
 constexpr unsigned int fontSize = 40; ///< pixels to the em
 constexpr char firstGlyph = '!';
@@ -50,7 +50,7 @@ inline unsigned char ToByte(unsigned int value) {
 }
 
 struct Frame {
-    std::vector<Tile> sourceTiles; ///< what the source buffer holds before the first frame
+    std::vector<Tile> sourceTiles; ///< the contents of the source buffer
     std::vector<Tile> rectangles;
     std::vector<Copy> copies;
     std::vector<TextLine> lines;       ///< 20 rows in two columns, which overlap

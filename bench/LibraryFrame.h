@@ -1,5 +1,5 @@
 /// @file
-/// The whole frame by libzogles.
+/// The whole frame, drawn by libzogles.
 #ifndef ZOGLES_BENCH_LIBRARYFRAME_H
 #define ZOGLES_BENCH_LIBRARYFRAME_H
 
@@ -8,7 +8,7 @@
 /// Holds the frame as the library's records, so that drawing it only calls the library.
 class LibraryFrame {
 public:
-    /// @param composedBuffer,source the buffer that is presented, and the one that is copied from
+    /// @param composedBuffer,source the buffer to present, and the one to copy from
     LibraryFrame(const Frame& usedFrame, unsigned int composedBuffer, unsigned int source)
         : frame(usedFrame),
           composed(composedBuffer), bitmap{frame.bitmap.data(), ZO_FORMAT_RGBA8888, 0,         0,

@@ -1,7 +1,7 @@
-// The benchmarks, with a real driver or without a driver.
+// The benchmarks, with or without a driver.
 //   zogles_bench [options of Google Benchmark]
-//   zogles_bench --check                    whether baseline and library draw the same pixels
-//   zogles_bench --repeat PATTERN COUNT     runs the cases that match, for callgrind: dumps the
+//   zogles_bench --check                    checks that baseline and library draw the same pixels
+//   zogles_bench --repeat PATTERN COUNT     runs the matching cases under callgrind, which dumps the
 //                                           counts of each under its name
 
 #include "Cases.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-// Part of the font suffices for counting instructions: whole fonts take minutes under valgrind.
+// Counts use only part of the font: loading a whole font takes minutes under valgrind.
 constexpr unsigned int countedCharacters = 256;
 
 void Measure(benchmark::State& state, Side& side, int batch) {
@@ -21,7 +21,7 @@ void Measure(benchmark::State& state, Side& side, int batch) {
     glFinish();
     while (state.KeepRunningBatch(batch)) {
         side.run(batch);
-        glFinish(); // what the driver does later is part of the cost
+        glFinish(); // includes work that the driver defers
     }
     state.SetItemsProcessed(state.iterations());
 }

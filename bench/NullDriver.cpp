@@ -1,5 +1,5 @@
-// EGL and GL that do nothing, so that only the caller's code is measured. Being defined in the program,
-// these functions come before those of the libraries.
+// Empty EGL and GL functions, so that only the caller's code is measured. They are defined in the
+// program, so they override those of the libraries.
 
 #include "Driver.h"
 
@@ -17,7 +17,7 @@ namespace {
 
 char something; // what every EGL handle points to
 
-// Unlike a driver, never issues a name twice: nothing here depends on names.
+// Never reuses a name, unlike a driver; the empty functions ignore names.
 void Generate(GLsizei count, GLuint* names) {
     static GLuint last = 0;
     for (GLsizei i = 0; i < count; ++i) {

@@ -1,5 +1,5 @@
 /// @file
-/// What the library and the baseline draw on, and the inputs that they share.
+/// The surface that library and baseline draw on, and the inputs that they share.
 #ifndef ZOGLES_BENCH_STAGE_H
 #define ZOGLES_BENCH_STAGE_H
 
@@ -12,7 +12,7 @@ constexpr char fontPath[] = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
 /// A font with tens of thousands of characters.
 constexpr char largeFontPath[] = "/usr/share/fonts/opentype/unifont/unifont.otf";
 
-/// Text without spaces, of so many units.
+/// Text of this many units, without spaces.
 std::u16string Words(size_t length);
 
 /// The text of a request in one colour.
@@ -20,7 +20,7 @@ tagZoTextInfo Request(const std::u16string& text, tagZoColorRGBA color);
 
 Baseline::Color ToFloats(tagZoColorRGBA color);
 
-/// A surface bound on construction: members after it find its context current.
+/// A surface that its constructor binds, so that later members are constructed with a current context.
 struct BoundSurface : ZoGLDrawSurface {
     BoundSurface();
 };
@@ -28,8 +28,8 @@ struct BoundSurface : ZoGLDrawSurface {
 /// A bound surface with a font and buffers, and a baseline in the same context.
 class Stage {
 public:
-    /// @param font,characters the font, cut to so many characters; 0 means all
-    /// @param buffers how many buffers the library has, two at least
+    /// @param font,characters the font, limited to this many characters; 0 means all
+    /// @param buffers number of the library's buffers, at least two
     Stage(const char* font, unsigned int characters, int buffers);
 
     /// Gives both sides' buffers the same content.

@@ -1,7 +1,7 @@
 """Prints the tables of scripts/bench and scripts/bench-peers as Markdown.
 
     report.py bench OUT COUNTS COMMITTED    times and counts; fails if a committed count grew by over 5 %
-    report.py peers OUT                     times of the peers; fails if a picture shows something else
+    report.py peers OUT                     times of the peers; fails if the pictures differ too much
 """
 
 import collections
@@ -13,7 +13,7 @@ import statistics
 import sys
 
 GROWTH_ALLOWED = 1.05
-# Most of these cases is FreeType's work, so they are compared with FreeType's calls alone.
+# FreeType does most of the work in these cases, so they are compared with its calls alone.
 FREETYPE_CASES = ("styled/", "font", "growth/load/")
 MEASURES = [("wall_us", "wall time"), ("thread_us", "drawing thread"), ("process_us", "whole process")]
 # The limits for pictures. libzogles draws the edges of glyphs darker, by up to a quarter of the colour,
@@ -46,7 +46,7 @@ def read_times(out, name):
 
 
 def read_counts(folder):
-    """Instructions a call, by case and side, from callgrind's files."""
+    """Instructions per call, by case and side, from callgrind's files."""
     counts = {}
     for path in glob.glob(os.path.join(folder, "count.*")):
         with open(path, encoding="utf-8", errors="replace") as file:
@@ -87,7 +87,7 @@ def case_rows(null, real, counts):
 
 
 def check_counts(out, counts, committed):
-    """Writes the counts that repeat exactly; returns whether no committed one is missing or grew."""
+    """Writes the counts that repeat exactly. Returns False if a committed count is missing or has grown."""
     with open(os.path.join(out, "bench-counts.tsv"), "w", encoding="utf-8") as file:
         for name in sorted(counts):
             if name.endswith("/library") and not name.startswith((*FREETYPE_CASES, "growth/")):
@@ -108,7 +108,7 @@ def report_bench(out, count_folder, committed):
     for name, times in read_times(out, "bench-log.json").items():
         null[name.replace("/library", ", log shown/library")] = times
     counts = read_counts(count_folder)
-    write_table(out, "bench.md", "Times a call: the library's, and their ratio to the baseline's",
+    write_table(out, "bench.md", "Times per call of the library, and their ratios to the baseline",
                 ["case", "instructions", "baseline", "no driver", "ratio", "driver", "ratio"],
                 case_rows(null, real, counts))
     return check_counts(out, counts, committed)
@@ -120,7 +120,7 @@ def read_picture(path):
 
 
 def compare_pictures(out, names):
-    """Returns whether every picture shows what the first one shows."""
+    """Returns whether every picture shows the same as the first one."""
     are_alike = True
     expected = read_picture(os.path.join(out, f"peers-{names[0]}.ppm"))
     for name in names[1:]:
@@ -150,7 +150,7 @@ def report_peers(out):
             row += [f"{statistics.median(times) / 1000:.2f} ms",
                     f"{statistics.median(ratios):.2f} ({min(ratios):.2f}–{max(ratios):.2f})"]
         rows.append(row)
-    title = (f"Times a frame, {len(base)} rounds of {base[0]['frames']} frames on {base[0]['renderer']}; "
+    title = (f"Times per frame, {len(base)} rounds of {base[0]['frames']} frames on {base[0]['renderer']}; "
              "ratio to zogles in the same round: median (lowest–highest)")
     write_table(out, "peers.md", title,
                 [""] + [head for _, measure in MEASURES for head in (measure, "ratio")], rows)

@@ -67,8 +67,8 @@ survive the loss of the window.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "on-screen display with OpenGL ES 2.0 - runtime
 ${about}
-This package holds the shared library.")
+This package contains the shared library.")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "on-screen display with OpenGL ES 2.0 - development
 ${about}
-This package holds the header, and what CMake and pkg-config ask for.")
+This package contains the header and the files for CMake and pkg-config.")
 include(CPack)

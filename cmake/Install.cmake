@@ -1,5 +1,5 @@
 # The installation has three components: runtime, development and docs. Clients find the library with
-# find_package(zogles 1) or pkg-config, also after the installed tree was moved.
+# find_package(zogles 1) or pkg-config, even if the installed tree was moved.
 include(CMakePackageConfigHelpers)
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/zogles")

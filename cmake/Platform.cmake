@@ -1,12 +1,13 @@
-# ZOGLES_OWN_FUNCTIONS: functions that the library defines because the platform lacks them, with
-# ZOGLES_OWN_MEMSET_S for memset_s. ZOGLES_PLATFORM_LIBRARIES: libraries with those that it has.
+# Sets ZOGLES_OWN_FUNCTIONS to the functions that the library defines because the platform lacks them,
+# ZOGLES_OWN_MEMSET_S to whether memset_s is one of them, and ZOGLES_PLATFORM_LIBRARIES to the libraries
+# that provide the others.
 include(CheckCXXSourceCompiles)
 set(ZOGLES_BOUNDS_LIBRARY boundscheck CACHE STRING
   "The platform's bounds-checking library, searched if the C library has no memset_s")
 set(ZOGLES_OWN_FUNCTIONS "")
 set(ZOGLES_PLATFORM_LIBRARIES "")
 
-# A function, so that the variables that steer the checks keep their values outside.
+# A function, so that the variables that control the checks do not change outside it.
 function(zogles_check_platform)
   set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
   check_cxx_source_compiles("

@@ -3,7 +3,7 @@
 # objcopy can make one.
 
 # Sections that several objects share, such as those of templates, must become part of the object:
-# otherwise the linker may replace them by a program's.
+# otherwise the linker may replace them with a program's.
 separate_arguments(flags UNIX_COMMAND "${CMAKE_CXX_FLAGS}")
 if(CMAKE_CXX_COMPILER_TARGET)
   list(APPEND flags "${CMAKE_CXX_COMPILE_OPTIONS_TARGET}${CMAKE_CXX_COMPILER_TARGET}")
@@ -47,7 +47,7 @@ else()
     COMMENT "Combining the library into one object"
     COMMAND_EXPAND_LISTS VERBATIM)
   add_library(zogles STATIC "${object}")
-  add_dependencies(zogles zogles_objects) # Make has no rule for them there
+  add_dependencies(zogles zogles_objects) # otherwise Make has no rule for the objects
   add_library(zogles_archive STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:zogles_objects>)
   add_library(zogles_internal ALIAS zogles_archive)
   set(ZOGLES_ARCHIVE zogles_archive)

@@ -3,10 +3,10 @@
 //   dashboard                  until a key is pressed
 //   dashboard --out FILE.png   saves what the window shows, and ends
 //
-// Text of any size but the loaded one is rendered at every draw, and a font that is loaded this large
-// leaves out many characters. So each digit is drawn once, into a buffer, and copied. Two buffers of
-// the window's size hold the rest: everything switched off, and everything switched on. A frame
-// copies the first one and parts of the second one.
+// Text of another size than the loaded one is rendered at every draw, and a font that is loaded at the
+// size of these digits lacks many characters. So each digit is drawn once, into a buffer, and copied.
+// Two buffers of the window's size hold the rest: everything switched off, and everything switched on.
+// A frame copies the first one and parts of the second one.
 
 #include "common/Picture.h"
 #include "common/XWindow.h"
@@ -24,16 +24,16 @@ constexpr unsigned int speedTop = 84;
 constexpr tagZoRectInfo icon = {40, 28, 32, 32}; // the first one
 constexpr unsigned int iconStep = 132;
 constexpr tagZoRectInfo bar = {40, 270, 560, 14};
-constexpr unsigned int barStep = 10; // for 4 km/h
+constexpr unsigned int barStep = 10; // pixels for 4 km/h
 constexpr tagZoRectInfo label = {40, 304, 560, 40};
-constexpr tagZoColorRGBA ground = {17, 23, 48, 255}; // and that of the icons
+constexpr tagZoColorRGBA ground = {17, 23, 48, 255}; // also behind the icons
 constexpr tagZoColorRGBA dim = {52, 60, 98, 255};
 constexpr tagZoColorRGBA quiet = {174, 182, 208, 255};
 constexpr tagZoColorRGBA white = {244, 246, 252, 255};
 constexpr tagZoColorRGBA amber = {255, 200, 87, 255};
 constexpr tagZoColorRGBA red = {236, 96, 104, 255};
 
-// In the order of icons.png, which has them switched off in its upper half and on in its lower half.
+// In the order of icons.png, whose upper half has the icons switched off, its lower half switched on.
 enum Icon { LeftArrow, Headlight, Battery, Fuel, RightArrow };
 
 struct Dashboard {
@@ -74,7 +74,7 @@ struct Dashboard {
         return buffer;
     }
 
-    // Pixels get into a buffer as rectangles, one for each run of one colour.
+    // Draws pixels into a buffer as rectangles, one for each run of equal colour.
     void PaintIcons(unsigned int buffer, unsigned int firstRow) {
         for (unsigned int y = 0; y < icon.height; ++y) {
             for (unsigned int x = 0, end = 0; x < icons.width; x = end) {

@@ -1,7 +1,7 @@
 // Rectangles and a line of text.
 //
 //   hello                  shows the window until a key is pressed
-//   hello --out FILE.png   saves what the window shows, and ends
+//   hello --out FILE.png   saves what the window shows, and exits
 
 #include "common/XWindow.h"
 
@@ -13,7 +13,7 @@ constexpr unsigned int width = 640;
 constexpr unsigned int height = 360;
 constexpr unsigned int textSize = 40;
 
-// Draws on the window itself: what is drawn later covers what was drawn earlier.
+// Draws on the window itself. Later rectangles cover earlier ones.
 void Fill(ZoGLDrawSurface& surface, const tagZoRectInfo& rect, const tagZoColorRGBA& color) {
     Check("rectangle", surface.ZoDrawRect(ZO_WINDOW_HANDLE, &rect, &color));
 }

@@ -1,7 +1,7 @@
 // Two lines of a song over a picture: a second colour sweeps over each word while it is sung.
 //
 //   karaoke                  until a key is pressed
-//   karaoke --out FILE.png   saves what the window shows, and ends
+//   karaoke --out FILE.png   saves what the window shows, and exits
 //
 // The lines are drawn twice, into one buffer for each colour. A frame copies the first buffer and, of
 // the second one, the part that has been sung. The edge of a copy may cut a letter in two.
@@ -29,7 +29,7 @@ constexpr tagZoColorRGBA amber = {255, 200, 87, 255};
 struct Word {
     std::u16string_view text;
     unsigned int line;
-    unsigned int start; // when it is sung, in milliseconds
+    unsigned int start; // when the word is sung, in milliseconds
     unsigned int end;
     unsigned int x; // where it is on the panel, found by measuring
     unsigned int width;
@@ -76,7 +76,7 @@ struct Karaoke {
         return buffer;
     }
 
-    // How far a line has been sung, in pixels.
+    // The width of a line's sung part, in pixels.
     unsigned int GetSweep(unsigned int line, unsigned int time) const {
         unsigned int sweep = 0;
         for (const Word& word : song) {
@@ -95,7 +95,7 @@ struct Karaoke {
     }
 };
 
-// A bitmap clears the window, so it comes first.
+// Drawn first, because a bitmap clears the window.
 void ShowPicture(ZoGLDrawSurface& surface, const Picture& picture) {
     const tagZoBitmapInfo bitmap = {picture.rgba.data(), ZO_FORMAT_RGBA8888, 0,  0,
                                     picture.width,       picture.height,     all};

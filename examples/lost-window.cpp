@@ -1,9 +1,9 @@
 // A window is closed, another one opens, and the buffers are painted again.
 //
-// The buffers are back under their old handles, cleared. Fonts must be loaded again.
+// Buffers keep their handles but lose their contents. Fonts must be loaded again.
 //
 //   lost-window                  closes its first window after two seconds; a key closes the second
-//   lost-window --out FILE.png   saves what the second window shows, and ends
+//   lost-window --out FILE.png   saves what the second window shows, and exits
 
 #include "common/XWindow.h"
 
@@ -37,7 +37,7 @@ void DrawWord(ZoGLDrawSurface& surface, unsigned int target, std::u16string_view
     Check("text", surface.ZoDrawText(target, &text, &pen));
 }
 
-// Painting is apart from creating: after the loss of a window it is called once more.
+// Separate from creating the buffers: after the loss of a window, only painting is repeated.
 void Paint(ZoGLDrawSurface& surface, unsigned int buffer) {
     Fill(surface, buffer, card, {38, 46, 88, 255});
     Fill(surface, buffer, {24, 24, 184, 96}, {236, 96, 104, 255});
@@ -52,7 +52,7 @@ void Show(ZoGLDrawSurface& surface, unsigned int buffer, unsigned int x) {
     Check("copy to the window", surface.ZoBlit(&copy));
 }
 
-// What every new window needs before you can draw.
+// Prepares a new window for drawing.
 std::unique_ptr<XWindow> OpenWindow(ZoGLDrawSurface& surface) {
     auto window = std::make_unique<XWindow>(width, height);
     Check("binding", surface.ZoCreateGLWindowSurface(window->Show()));

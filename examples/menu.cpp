@@ -1,10 +1,10 @@
 // A list that scrolls with the keys Up and Down, on an SDL window.
 //
-//   menu                  Enter prints the row, Esc leaves
-//   menu --out FILE.png   presses a few keys, saves what the window shows, and ends
+//   menu                  Enter prints the row, Esc exits
+//   menu --out FILE.png   presses a few keys, saves what the window shows, and exits
 //
-// All rows are drawn once into a tall buffer, and each frame copies the visible part. The edge of a
-// rectangle does not clip text, but a copy clips it: so a list is a buffer and a copy.
+// All rows are drawn once into a tall buffer, and each frame copies the visible part. A
+// rectangle's edge does not clip text, but a copy clips: so the list is a buffer and a copy.
 
 #include "common/Example.h"
 #include "common/Picture.h"
@@ -92,7 +92,7 @@ struct Menu {
 
 // Not SDL_WINDOW_OPENGL: the library creates its own context.
 ANativeWindow* OpenWindow() {
-    setenv("EGL_PLATFORM", "x11", 0); // on a Wayland desktop, too
+    setenv("EGL_PLATFORM", "x11", 0); // also on a Wayland desktop
     SDL_SetHint(SDL_HINT_VIDEODRIVER, "x11");
     SDL_Window* window = SDL_Init(SDL_INIT_VIDEO) == 0
                              ? SDL_CreateWindow("menu", 0, 0, width, height, SDL_WINDOW_SHOWN)

@@ -1,7 +1,7 @@
 // A transparent volume bar above all windows, which does not take clicks.
 //
 //   overlay                  for five seconds, on a desktop with a compositor
-//   overlay --out FILE.png   saves what the window shows, and ends
+//   overlay --out FILE.png   saves what the window shows, and exits
 //
 // Alpha. The window has a visual of depth 32, whose last 8 bits are alpha, and a compositor blends
 // it; without a compositor, transparent parts show black. Compositors expect colours multiplied by
@@ -11,8 +11,8 @@
 //
 // Configuration. Each EGL configuration names a visual, EGL_NATIVE_VISUAL_ID. The library takes the
 // first configuration with 8 bits of alpha. Mesa on X11 may give that one a visual of depth 24, but
-// draws on a window of depth 32 all the same, alpha included. A driver that insists on its own visual
-// refuses the binding with code 5.
+// still draws on a window of depth 32, alpha included. A driver that requires the configuration's
+// visual refuses the binding with code 5.
 
 #include "common/XWindow.h"
 
@@ -70,7 +70,7 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame) {
     Check("copy to the window", surface.ZoBlit(&copy));
 }
 
-// The window manager leaves such a window alone: no frame, no focus, above all others. For a window
+// The window manager does not manage such a window: no frame, no focus, above all others. For a window
 // that it manages, set the property _NET_WM_STATE to _NET_WM_STATE_ABOVE instead, and
 // _MOTIF_WM_HINTS to no decorations.
 void PutAboveAll(XWindow& window) {

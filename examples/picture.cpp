@@ -1,9 +1,9 @@
 // A PNG file, as large as the window allows without changing its shape.
 //
 //   picture [FILE.png]                    shows it, or a poster, until a key is pressed
-//   picture [FILE.png] --out RESULT.png   saves what the window shows, and ends
+//   picture [FILE.png] --out RESULT.png   saves what the window shows, and exits
 //
-// The window is cleared to black around the picture, and shows through where the file is transparent.
+// The window is black around the picture, and wherever the file is transparent.
 
 #include "common/Picture.h"
 #include "common/XWindow.h"
@@ -32,7 +32,7 @@ tagZoRectInfo Fit(const Picture& picture) {
     return fit;
 }
 
-// Each call uploads the pixels, so this suits a picture that is shown now and then.
+// Each call uploads the pixels, so use it for pictures that rarely change.
 void Draw(ZoGLDrawSurface& surface, const Picture& picture) {
     tagZoBitmapInfo bitmap = {};
     bitmap.data = picture.rgba.data();

@@ -1,14 +1,14 @@
-// Subtitles: outlined, centred, faded in and out over what is behind a transparent window.
+// Subtitles on a transparent window: outlined, centred, faded in and out.
 //
 //   subtitles                           until a key is pressed
-//   subtitles --out FILE.png            saves what the window shows after one second, and ends
+//   subtitles --out FILE.png            saves what the window shows after one second, and exits
 //   subtitles --out FILE.png --at 250   saves the middle of the fade
 //
-// Only text is blended, so its alpha makes the fade. The buffer starts transparent black, and so:
-//  - Colours land multiplied by alpha, as compositors expect them. ZoBlit copies them to the window
-//    unchanged, while ZoDisplayFBO would multiply them once more.
-//  - Text of one alpha over text of the same alpha keeps that alpha, so the copies of a word that make
-//    up its outline do not add up. Their colours would add up, so the outline is black.
+// Only text is blended, so its alpha makes the fade. Because the buffer starts transparent black:
+//  - Colours are multiplied by alpha, as compositors expect. ZoBlit copies them to the window
+//    unchanged, while ZoDisplayFBO would multiply them again.
+//  - Text over text of the same alpha keeps that alpha, so the alpha of an outline's overlapping copies
+//    does not add up. Their colours would add up, so the outline is black.
 
 #include "common/XWindow.h"
 
@@ -26,7 +26,7 @@ constexpr std::u16string_view lines[] = {u"The ferry is late again.", u"Time eno
 constexpr tagZoColorRGBA white = {250, 246, 236, 255};
 
 // Calls place(word, x) for each word of a line and returns the line's width. Words are placed one by
-// one because a space that is drawn has no width, and one that is measured always has 30 pixels.
+// one because a space has no width when drawn, and counts as 30 pixels when measured.
 template <typename Place>
 unsigned int LayOut(ZoGLDrawSurface& surface, std::u16string_view line, Place place) {
     unsigned int pen = 0;
@@ -42,7 +42,7 @@ unsigned int LayOut(ZoGLDrawSurface& surface, std::u16string_view line, Place pl
     return pen > 0 ? pen - spaceWidth : 0;
 }
 
-// The outline is the word itself in black, moved to all sides. The word goes on top of it.
+// The outline is the word in black, shifted to all sides. The word is drawn over it.
 void DrawOutlined(ZoGLDrawSurface& surface, unsigned int frame, tagZoTextInfo word, unsigned int x,
                   unsigned int y, unsigned char alpha) {
     const tagZoRectInfo pens[] = {{x - 2, y, 0, 0},     {x + 2, y, 0, 0},     {x, y - 2, 0, 0},
@@ -73,7 +73,7 @@ void Draw(ZoGLDrawSurface& surface, unsigned int frame, unsigned int strength) {
     Check("copy to the window", surface.ZoBlit(&copy));
 }
 
-// Half a second to fade in, two seconds to stay, half a second to fade out, half a second without.
+// Fades in for half a second, stays for two seconds, fades out for half a second, pauses for as long.
 unsigned int StrengthAt(unsigned int milliseconds) {
     const unsigned int time = milliseconds % 3500;
     return time < 500 ? time / 5 : time < 2500 ? 100 : time < 3000 ? (3000 - time) / 5 : 0;

@@ -1,13 +1,13 @@
 # shellcheck shell=bash
-# The other scripts source this file before anything else. It stops the script at the first error and
-# changes to the project's folder; the caller's folder is in OLDPWD. Given --help, it prints the
-# script's opening comment and ends. Then it defines what several scripts need.
+# The other scripts source this file first. It stops the script at the first error and
+# changes to the project's folder; the caller's folder is in OLDPWD. With --help, it prints the
+# script's opening comment and exits. It also defines functions that several scripts need.
 set -euo pipefail
 
 script=$(realpath "$0")
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# Prints the opening comment of the script that runs.
+# Prints the opening comment of the running script.
 print_help() {
     sed -n '1d; /^#/!q; /SPDX-/d; s/^# \{0,1\}//p' "$script"
 }
@@ -51,7 +51,7 @@ build_in() {
     cmake --build "$1"
 }
 
-# headless COMMAND...: runs it with the software driver on an X server that shows nothing.
+# headless COMMAND...: runs it with the software driver on a virtual X server.
 headless() {
     LIBGL_ALWAYS_SOFTWARE=1 xvfb-run -a -s "-screen 0 1920x1080x24 -noreset" "$@"
 }
@@ -65,8 +65,8 @@ on_display() {
     fi
 }
 
-# need_display [ARGUMENT...]: if there is no display, runs the whole script headless with these
-# arguments instead, and ends.
+# need_display [ARGUMENT...]: if there is no display, runs the whole script again, headless and with
+# these arguments, and exits.
 need_display() {
     if [ -z "${DISPLAY:-}" ]; then
         headless "$script" "$@"
@@ -74,7 +74,7 @@ need_display() {
     fi
 }
 
-# Prints the packages of the sections given that are not installed, one a line.
+# missing_packages SECTION...: prints the packages of these sections that are not installed, one per line.
 missing_packages() {
     local section package
     for section in "$@"; do
@@ -98,7 +98,7 @@ as_root() {
     fi
 }
 
-# apt_get ARGUMENT...: runs apt-get as root, once no other program holds one of its locks.
+# apt_get ARGUMENT...: runs apt-get as root. Waits while another program holds one of its locks.
 apt_get() {
     local errors status lock shown=""
     errors=$(mktemp)
@@ -117,12 +117,12 @@ apt_get() {
     done
 }
 
-# install_packages SECTION...: installs what is missing of these sections of scripts/packages.txt. If
-# nothing is missing, it needs no network.
+# install_packages SECTION...: installs the missing packages of these sections of scripts/packages.txt.
+# If no package is missing, it needs no network.
 install_packages() {
     local missing
     if ! command -v dpkg-query >/dev/null; then
-        echo "no dpkg here: install the packages of scripts/packages.txt with your system's tools" >&2
+        echo "dpkg not found: install the packages of scripts/packages.txt with your system's tools" >&2
         return 0
     fi
     mapfile -t missing < <(missing_packages "$@")

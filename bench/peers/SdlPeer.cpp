@@ -1,4 +1,4 @@
-// The frame by SDL2's renderer with SDL2_ttf, in three variants, named by the contestant's name:
+// The frame, drawn with SDL2's renderer and SDL2_ttf, in three variants, selected by name:
 // sdl-cached keeps each line as a texture, for lines that never change; sdl-atlas keeps the glyphs
 // in one texture and draws them with SDL_RenderGeometry; sdl-anew renders each line in each frame.
 
@@ -42,8 +42,8 @@ void CopyLine(SDL_Renderer* renderer, TTF_Font* font, const TextLine& line, SDL_
     SDL_RenderCopy(renderer, texture, nullptr, &place);
 }
 
-// All glyphs side by side in one texture, which the font's one advance makes simple, and the draw
-// of all lines in one call.
+// All glyphs side by side in one texture, in cells of the same width, because the font is monospaced.
+// Draws all lines in one call.
 class GlyphAtlas {
 public:
     GlyphAtlas(SDL_Renderer* usedRenderer, TTF_Font* font)

@@ -61,7 +61,7 @@ void RunContestant(int argc, char** argv, const Contestant& contestant) {
             contestant.draw();
             contestant.swap();
         }
-        glFinish(); // a driver may be frames behind
+        glFinish(); // the driver may lag behind by several frames
     };
     drawFrames(warmUpFrames);
     const Times start;

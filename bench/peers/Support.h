@@ -1,5 +1,5 @@
 /// @file
-/// What the contestants share besides the frame: timing and picture.
+/// Code that the contestants share: timing and pictures.
 #ifndef ZOGLES_BENCH_PEERS_SUPPORT_H
 #define ZOGLES_BENCH_PEERS_SUPPORT_H
 
@@ -10,7 +10,7 @@
 /// Ends the program with a message unless `isFine`.
 void Require(bool isFine, const char* what);
 
-/// By default, swapping waits for the display if the driver can; the benchmark must not wait.
+/// Sets the swap interval to 0: the benchmark must not wait for the display.
 void TurnOffVsync();
 
 struct Contestant {

@@ -1,4 +1,4 @@
-// The frame by libzogles.
+// The frame, drawn with libzogles.
 
 #include "LibraryFrame.h"
 #include "Support.h"
@@ -6,7 +6,7 @@
 int main(int argc, char** argv) {
     ZoGLDrawSurface surface;
     Require(surface.ZoCreateGLWindowSurface(OpenWindow()) == ZO_SUCCESS, "binding the window");
-    TurnOffVsync(); // the library leaves the interval alone, and its context is current here
+    TurnOffVsync(); // the library does not set the interval, and its context is current here
     Require(surface.ZoLoadFont(frameFontPath, fontSize) == ZO_SUCCESS, frameFontPath);
     unsigned int composed = ZO_NO_HANDLE;
     unsigned int source = ZO_NO_HANDLE;

@@ -32,8 +32,8 @@ set(library_folder "${CMAKE_SYSROOT}/usr/lib/${libraries}")
 set(ENV{PKG_CONFIG_SYSROOT_DIR} "${CMAKE_SYSROOT}")
 set(ENV{PKG_CONFIG_LIBDIR} "${library_folder}/pkgconfig:${CMAKE_SYSROOT}/usr/share/pkgconfig")
 
-# x86-64 runs programs for i386 itself, unless its kernel was built without; they start much faster
-# than in the emulator. They need the sysroot's loader and libraries, and GL its drivers.
+# x86-64 runs i386 programs without the emulator, and faster, if its kernel supports them. The programs
+# need the sysroot's loader, libraries and GL drivers.
 execute_process(COMMAND "${CMAKE_SYSROOT}/lib/${loader}" --version
   RESULT_VARIABLE result OUTPUT_QUIET ERROR_QUIET)
 if(result EQUAL 0)

@@ -1,4 +1,4 @@
-// What the examples share: result codes, the options, and a text record.
+// Code that the examples share: the check of result codes, the options, and a text record.
 #ifndef EXAMPLES_COMMON_EXAMPLE_H
 #define EXAMPLES_COMMON_EXAMPLE_H
 
@@ -7,16 +7,16 @@
 
 constexpr char fontFile[] = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
 
-/// Plain text of this size is drawn at the size that the font was loaded at, and is the fastest.
+/// Plain text of this size is drawn at the loaded size, which is the fastest.
 constexpr unsigned int standardSize = 40;
 
 /// Ends the program if a result code is not `ZO_SUCCESS`. A real program reacts to the code.
 void Check(const char* what, int code);
 
-/// What the command line asks for. Without `out`, an example shows its window.
+/// The command line's options. Without `out`, an example shows its window.
 struct Arguments {
     const char* file;          ///< the argument that is not an option, or null
-    const char* out;           ///< the PNG file to save instead, or null
+    const char* out;           ///< the PNG file to save, or null
     unsigned int milliseconds; ///< the moment of an animation to save
 };
 

@@ -62,7 +62,7 @@ Picture ReadWindow(const ZoGLDrawSurface& surface, unsigned int width, unsigned 
     return picture;
 }
 
-// The window's colours are multiplied by alpha already; the desktop shows through the rest.
+// The window's colours are already multiplied by alpha.
 Picture PutOnDesktop(const Picture& window) {
     Picture desktop = ReadPng(EXAMPLES_FOLDER "/common/desktop.png");
     if (desktop.width < window.width || desktop.height < window.height) {
@@ -74,7 +74,7 @@ Picture PutOnDesktop(const Picture& window) {
     for (unsigned int y = 0; y < window.height; ++y) {
         for (unsigned int x = 0; x < window.width; ++x) {
             const unsigned char* from = window.At(x, y);
-            // cppcheck-suppress redundantInitialization ; it does not see that the pixels are read
+            // cppcheck-suppress redundantInitialization ; a false positive: the pixels are read
             unsigned char* to = &desktop.rgba[(size_t{top + y} * desktop.width + left + x) * 4];
             std::transform(from, from + 3, to, to, [from](int color, int behind) {
                 const int sum = color + (behind * (255 - from[3]) + 127) / 255;

@@ -17,10 +17,10 @@ struct Picture {
     }
 };
 
-/// Reads a file as `ZoDisplayBitmap` takes it. Ends the program if the file cannot be read.
+/// Reads a file in the format of `ZoDisplayBitmap`. Ends the program if the file cannot be read.
 Picture ReadPng(const std::string& path);
 
-/// Writes the colours and leaves out alpha. Ends the program if the file cannot be written.
+/// Writes the colours without alpha. Ends the program if the file cannot be written.
 void WritePng(const std::string& path, const Picture& picture);
 
 /// Reads the window's top-left part. Call it before the refresh, which discards the pixels.

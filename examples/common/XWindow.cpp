@@ -11,7 +11,7 @@
 namespace {
 
 Display* OpenDisplay() {
-    setenv("EGL_PLATFORM", "x11", 0); // on a Wayland desktop, too
+    setenv("EGL_PLATFORM", "x11", 0); // also on a Wayland desktop
     Display* display = XOpenDisplay(nullptr);
     if (display == nullptr) {
         fputs("no X server: is DISPLAY set?\n", stderr);
@@ -22,7 +22,7 @@ Display* OpenDisplay() {
 
 Window CreateWindow(Display* display, unsigned int width, unsigned int height, XWindow::Kind kind) {
     const Window root = XDefaultRootWindow(display);
-    XVisualInfo info = {}; // zero means that the window is like its parent
+    XVisualInfo info = {}; // zeros: the window gets its parent's visual and depth
     XSetWindowAttributes wish = {};
     wish.event_mask = ExposureMask | KeyPressMask;
     unsigned long mask = CWEventMask;
@@ -31,7 +31,7 @@ Window CreateWindow(Display* display, unsigned int width, unsigned int height, X
             fputs("the X server has no transparent windows\n", stderr);
             exit(EXIT_FAILURE);
         }
-        // Without these two, the server refuses a window of another depth than its parent's.
+        // The server requires these two for a window whose depth differs from its parent's.
         wish.colormap = XCreateColormap(display, root, info.visual, AllocNone);
         wish.border_pixel = 0;
         mask |= CWColormap | CWBorderPixel;
@@ -102,6 +102,6 @@ void Animate(XWindow& window, ZoGLDrawSurface& surface, const Arguments& argumen
         const std::chrono::duration<double, std::milli> time =
             std::chrono::steady_clock::now() - start;
         draw(static_cast<unsigned int>(time.count()));
-        Check("refresh", surface.ZoRefreshOnSrceen()); // waits for the screen, mostly
+        Check("refresh", surface.ZoRefreshOnSrceen()); // usually waits for the display
     }
 }

@@ -13,7 +13,7 @@ public:
     /// A transparent window has alpha; a compositor blends it over the desktop.
     enum class Kind { Opaque, Transparent };
 
-    /// Ends the program if there is no X server, or if that has no transparent windows.
+    /// Ends the program if there is no X server, or no visual for transparent windows.
     XWindow(unsigned int windowWidth, unsigned int windowHeight, Kind windowKind = Kind::Opaque);
     ~XWindow();
     XWindow(const XWindow&) = delete;
@@ -22,16 +22,16 @@ public:
     Display* GetDisplay() const { return display; }
     Window GetId() const { return window; }
 
-    /// Puts the window on the screen. Returns what the library takes: on X11, the window's number.
+    /// Shows the window. Returns the library's window pointer, which on X11 is the window's id.
     ANativeWindow* Show();
 
-    /// Waits until the window has to be drawn. False once the user presses a key or closes it.
+    /// Waits until the window must be drawn. False once the user presses a key or closes the window.
     bool WaitForExpose();
 
     /// False once the user presses a key or closes the window. Does not wait.
     bool IsOpen();
 
-    /// Writes a PNG file of what is drawn and not refreshed yet; a transparent window on a desktop.
+    /// Writes what is drawn but not refreshed yet to a PNG file; a transparent window over a desktop.
     void Save(const ZoGLDrawSurface& surface, const char* path) const;
 
 private:

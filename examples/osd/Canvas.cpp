@@ -18,7 +18,7 @@ tagZoTextInfo ToRecord(std::u16string_view text, const TextStyle& style) {
     return info;
 }
 
-// Where a row or column of a picture starts that is stretched to a length.
+// The start of a row or column of a picture that is stretched to a length.
 int Place(int start, int length, unsigned int index, unsigned int count) {
     return std::max(start + length * static_cast<int>(index) / static_cast<int>(count), 0);
 }
@@ -63,7 +63,7 @@ void Canvas::Fill(unsigned int buffer, const Rect& rect, const Color& color) {
     Check(surface.ZoDrawRect(buffer, &rectRecord, &color), "drawing a rectangle");
 }
 
-// Pixels get into a buffer as rectangles, one for each run of one colour.
+// Draws pixels into a buffer as rectangles, one for each run of equal colour.
 void Canvas::Paint(unsigned int buffer, const Picture& picture, const Rect& rect,
                    unsigned char alpha) {
     for (unsigned int y = 0; y < picture.height; ++y) {

@@ -1,4 +1,4 @@
-// The library behind a thin helper, which checks every result code and reports failures.
+// A thin wrapper of the library, which checks every result code and reports failures.
 #ifndef OSD_CANVAS_H
 #define OSD_CANVAS_H
 
@@ -29,9 +29,9 @@ public:
     void DestroyBuffer(unsigned int buffer);
 
     void Fill(unsigned int buffer, const Rect& rect, const Color& color);
-    /// Paints a picture that is scaled to a rectangle, which may exceed the buffer. Pixels of alpha 0
-    /// are left out.
-    /// @param alpha of everything that is painted
+    /// Paints a picture, scaled to a rectangle, which may exceed the buffer. Leaves out pixels of
+    /// alpha 0.
+    /// @param alpha replaces the alpha of all painted pixels
     void Paint(unsigned int buffer, const Picture& picture, const Rect& rect,
                unsigned char alpha = 255);
     void Copy(unsigned int from, const Rect& source, unsigned int to, const Rect& target);
@@ -39,7 +39,7 @@ public:
                   int baseline);
     int MeasureText(std::u16string_view text);
 
-    /// Clears the window and shows a part of a buffer at the same place.
+    /// Clears the window and shows a part of a buffer at the same position.
     void Present(unsigned int buffer, const Rect& part);
     /// Clears the window and shows a picture on a part of it.
     void ShowPicture(const Picture& picture, const Rect& rect);

@@ -9,7 +9,7 @@
 
 using Color = tagZoColorRGBA;
 
-/// Signed, unlike the library's record, so that differences may be negative.
+/// Signed, unlike the library's record, so that differences can be negative.
 struct Rect {
     int x;
     int y;

@@ -1,4 +1,4 @@
-// The places of everything in the scene, for a window of any size.
+// The layout of the scene, for a window of any size.
 #ifndef OSD_LAYOUT_H
 #define OSD_LAYOUT_H
 
@@ -7,13 +7,13 @@
 struct Layout {
     explicit Layout(const Rect& windowRect);
 
-    /// Pixels of the window for a length of the design, which is drawn for 1280 by 720.
+    /// Converts a length of the design, which is for 1280 by 720, to pixels of the window.
     int Scale(double length) const;
 
     Rect window;
     double unit;
     int radius;
-    int standardText; ///< pixels that the font is loaded at, and the fastest to draw
+    int standardText; ///< the loaded font size in pixels, which is the fastest to draw
 
     Rect banner;
     Rect logo;

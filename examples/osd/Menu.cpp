@@ -86,7 +86,7 @@ void Menu::PaintHighlight() {
     PaintRow(chosen, 0, first + std::min(highlightedRow, layout.rowCount - 1), true);
 }
 
-// Text of this size is expensive, so the row is drawn once and then shown bit by bit.
+// Text of this size is expensive, so the row is drawn once; each step of the scroll copies a part.
 void Menu::BringNextRow() {
     canvas.Fill(coming, {0, 0, layout.list.width, layout.rowHeight}, Palette::well);
     PaintRow(coming, 0, first + layout.rowCount, false);
@@ -121,7 +121,7 @@ void Menu::Compose(unsigned int frame) {
     canvas.Copy(thumb, {0, 0, handle.width, handle.height}, frame, handle);
 }
 
-// The list starts again after its end, so the last place is just before the first one.
+// The list repeats after its end, so the last channel comes just before the first one.
 Rect Menu::GetThumb() const {
     const Rect& bar = layout.scrollbar;
     const int length = bar.height * layout.rowCount / (channelCount + layout.rowCount);

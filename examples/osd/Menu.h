@@ -1,4 +1,4 @@
-// The list of channels, with one row highlighted, which scrolls by copies within its own buffer.
+// The list of channels, with one highlighted row. It scrolls by copies within its buffer.
 #ifndef OSD_MENU_H
 #define OSD_MENU_H
 
@@ -32,9 +32,9 @@ private:
     Typesetter& typesetter;
     const Layout& layout;
     int first = 0;                      // channel of the topmost row
-    int offset = 0;                     // pixels that the list has moved since a row was topmost
+    int offset = 0;                     // pixels that the topmost row has moved out at the top
     unsigned int rows = ZO_NO_HANDLE;   // the visible list without the highlight
-    unsigned int coming = ZO_NO_HANDLE; // the row that comes in from below
+    unsigned int coming = ZO_NO_HANDLE; // the row that enters at the bottom
     unsigned int pill = ZO_NO_HANDLE;   // the empty highlight
     unsigned int chosen = ZO_NO_HANDLE; // the highlight with its row's text
     unsigned int thumb = ZO_NO_HANDLE;  // the scrollbar's handle

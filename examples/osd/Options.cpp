@@ -49,7 +49,7 @@ bool ReadOptions(int argc, char* argv[], Options* options) {
         }
         const char* value = i + 1 < argc ? argv[++i] : "";
         if (!ReadOption(name, value, options)) {
-            fprintf(stderr, "zogles-osd: %s %s is wrong\n%s", name.c_str(), value, usage);
+            fprintf(stderr, "zogles-osd: invalid option: %s %s\n%s", name.c_str(), value, usage);
             return false;
         }
     }

@@ -1,4 +1,4 @@
-// What the command line asks for.
+// The command line's options.
 #ifndef OSD_OPTIONS_H
 #define OSD_OPTIONS_H
 

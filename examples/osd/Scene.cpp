@@ -8,7 +8,7 @@
 namespace {
 
 // Over the window's black, this alpha dims the background as a display would dim a video. Panels are
-// opaque, because text lowers the alpha at its edges: over opaque pixels that shows least.
+// opaque, because text lowers alpha at its edges, which is least visible over opaque pixels.
 constexpr unsigned char backgroundAlpha = 200;
 
 constexpr double programmeMinutes = 75;
@@ -21,7 +21,7 @@ Rect GetSize(const Picture& picture) {
     return {0, 0, static_cast<int>(picture.width), static_cast<int>(picture.height)};
 }
 
-// The place of a picture that covers the whole window and keeps its shape.
+// The rectangle of a picture that covers the whole window and keeps its proportions.
 Rect Cover(const Rect& window, const Rect& picture) {
     const double scale =
         std::max(1.0 * window.width / picture.width, 1.0 * window.height / picture.height);
@@ -60,7 +60,7 @@ void Scene::Paint() {
     ArrangeSubtitles();
 }
 
-// Stretching such a small picture blurs it.
+// Blurs the picture, because it is so small.
 void Scene::PaintGlass() {
     const Rect small = GetSize(pictures.glass);
     canvas.Paint(cells, pictures.glass, small);
@@ -83,7 +83,7 @@ void Scene::PaintPanels(Stage& stage) {
     stage.Paint(pictures.volume, layout.volumeIcon);
 }
 
-// Includes the round start of the part that is done, which each frame then lengthens.
+// Includes the round start of the bar's filled part, which each frame then lengthens.
 void Scene::PaintProgressTrack(Stage& stage) {
     const Rect& bar = layout.progress;
     stage.FillRounded(bar, bar.height / 2, Palette::track);

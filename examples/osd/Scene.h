@@ -1,5 +1,4 @@
-// The scene: a television's display over a picture. What does not move is painted once into a
-// backdrop. Each frame copies the backdrop into a buffer, draws what moves, and presents the buffer.
+// The scene: a television's display over a picture. Static parts are painted once into a backdrop. Each frame copies the backdrop into a buffer, draws the moving parts, and presents the buffer.
 #ifndef OSD_SCENE_H
 #define OSD_SCENE_H
 
@@ -10,9 +9,9 @@
 /// The files of the same names.
 struct ScenePictures {
     Picture background; ///< stands in for the video
-    Picture glass;      ///< the background as seen through frosted glass, small
-    Picture logo;       ///< of the channel, with hard edges, four times as large as it is shown
-    Picture volume;     ///< a loudspeaker, the same
+    Picture glass;      ///< the background seen through frosted glass, scaled down
+    Picture logo;       ///< the channel's, with hard edges, at four times the shown size
+    Picture volume;     ///< a loudspeaker, also at four times the shown size
 };
 
 class Scene {
@@ -49,9 +48,9 @@ private:
     Menu menu;
     Line subtitles[2];
     unsigned int cells = ZO_NO_HANDLE;    // the glass before it is stretched
-    unsigned int glass = ZO_NO_HANDLE;    // what the panels show of the background
-    unsigned int backdrop = ZO_NO_HANDLE; // all that does not move
-    unsigned int frame = ZO_NO_HANDLE;    // what is presented
+    unsigned int glass = ZO_NO_HANDLE;    // the frosted background, shown in the panels
+    unsigned int backdrop = ZO_NO_HANDLE; // all static parts
+    unsigned int frame = ZO_NO_HANDLE;    // the frame to present
 };
 
 #endif

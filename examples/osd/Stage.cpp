@@ -4,7 +4,7 @@
 
 namespace {
 
-// Above the size of full HD, a stage of four times the width and height takes too much memory.
+// Beyond full HD, a stage of four times the width and height takes too much memory.
 constexpr int mostPixelsForFour = 1920 * 1080;
 
 int ChooseScale(int width, int height) {
@@ -59,8 +59,8 @@ void Stage::CopyRounded(unsigned int from, const Rect& rect, int radius) {
     });
 }
 
-// Halves one step at a time: a linear copy to half the size takes the mean of four pixels, while a
-// larger step would skip pixels.
+// Halves the size in each step: a linear copy to half the size averages four pixels, while a larger
+// step would skip pixels.
 void Stage::ReduceTo(unsigned int to, int width, int height) {
     const Rect target{0, 0, width, height};
     if (half == ZO_NO_HANDLE) {

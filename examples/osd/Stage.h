@@ -18,7 +18,7 @@ public:
     // Rectangles and radii are in pixels of the result.
     void FillRounded(const Rect& rect, int radius, const Color& color);
     void Paint(const Picture& picture, const Rect& rect, unsigned char alpha = 255);
-    /// Copies the same region of a buffer of the result's size, with round corners.
+    /// Copies this region of a buffer of the result's size, with round corners.
     void CopyRounded(unsigned int from, const Rect& rect, int radius);
 
     /// Copies the top-left part of the stage to the top-left corner of a buffer, at the result's scale.
@@ -29,7 +29,7 @@ private:
                       const std::function<void(const Rect&)>& draw) const;
 
     Canvas& canvas;
-    int scale; // pixels of the stage for one of the result, along each axis
+    int scale; // pixels of the stage per pixel of the result, along each axis
     unsigned int buffer;
     unsigned int half;
 };

@@ -4,11 +4,10 @@
 
 namespace {
 
-// The library draws plain text of this size at the size that the font was loaded at, from glyphs that
-// are ready.
+// The library draws plain text of this size at the loaded size, from prepared glyphs.
 constexpr unsigned int standardFontSize = 40;
 
-// Shares of the text size that suit most faces.
+// Fractions of the text size that suit most fonts.
 constexpr double spaceWidth = 0.32;
 constexpr double capitalHeight = 0.73;
 
@@ -16,8 +15,8 @@ constexpr double capitalHeight = 0.73;
 
 Typesetter::Typesetter(Canvas& target, int pixels) : canvas(target), standardPixels(pixels) {}
 
-// Plain text of the loaded size is asked for by the standard size, which is the fastest. If 40 pixels
-// are wanted and the font was loaded at another size, the nearest size that is rendered is 41.
+// For plain text of the loaded size, pass the standard size, which is the fastest. If the font was
+// loaded at another size than 40, plain text of 40 pixels is not available, and 41 is the nearest size.
 TextStyle Typesetter::ToStyle(const Type& type) const {
     const bool isPlain = !type.bold && !type.italic;
     if (isPlain && type.pixels == standardPixels) {
@@ -36,7 +35,7 @@ int Typesetter::MeasureWord(std::u16string_view word, const Type& type) {
     return Round(width * type.pixels / standardPixels);
 }
 
-// A space that is drawn has no width, so each word has its place.
+// A space has no width when drawn, so each word is placed separately.
 Line Typesetter::Arrange(std::u16string_view text, const Type& type) {
     const int space = Round(type.pixels * spaceWidth);
     Line line{{}, 0};

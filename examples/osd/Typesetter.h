@@ -23,7 +23,7 @@ inline std::u16string Widen(const std::string& text) {
 
 enum class Align { Left, Centre, Right };
 
-/// A line cut into words, each with its place. It refers to the text that it was made from.
+/// A line split into words with their positions. Refers to the original text.
 struct Line {
     struct Word {
         std::u16string_view text;
@@ -35,13 +35,13 @@ struct Line {
 
 class Typesetter {
 public:
-    /// @param standardPixels the size that the font was loaded at
+    /// @param standardPixels the loaded font size
     Typesetter(Canvas& canvas, int standardPixels);
 
     Line Arrange(std::u16string_view text, const Type& type);
 
     void Draw(unsigned int buffer, const Line& line, const Type& type, int x, int baseline);
-    /// The line in `type` with an outline around it, so that it can be read over any picture.
+    /// Draws the line in `type` with an outline, so that it is readable over any picture.
     void DrawOutlined(unsigned int buffer, const Line& line, const Type& type, const Color& outline,
                       int thickness, int x, int baseline);
 

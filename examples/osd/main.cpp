@@ -64,7 +64,7 @@ private:
     double minute = shownMinute;
 };
 
-// Returns the size of the window, which may be another one than was asked for.
+// Returns the size of the window, which can differ from the requested one.
 Rect Demo::OpenWindow() {
     window = std::make_unique<XWindow>(static_cast<unsigned int>(options.width),
                                        static_cast<unsigned int>(options.height));
@@ -72,7 +72,7 @@ Rect Demo::OpenWindow() {
     return canvas.GetWindowRect();
 }
 
-// Saves what is drawn, and shows it.
+// Saves the drawn frame, and shows it.
 Picture Demo::Save(const char* name) {
     Picture picture = ReadWindow(surface, surface.ZoGetWindowWidth(), surface.ZoGetWindowHeight());
     const std::string path = options.outputFolder + "/" + name;
@@ -113,7 +113,7 @@ void Demo::ScrollRow() {
 }
 
 void Demo::DrawMovingFrame() {
-    constexpr double minutesPerFrame = 1.0 / 60; // a minute in a second
+    constexpr double minutesPerFrame = 1.0 / 60; // one minute per second
     minute = minute > 74 ? 0 : minute + minutesPerFrame;
     scene.ScrollMenu(layout.Scale(1));
     scene.DrawFrame(minute);
@@ -135,15 +135,15 @@ void Demo::MeasureFrames() {
     const double median = times[times.size() / 2];
     printf("cost of a frame (%d frames, each composed, presented and refreshed; the time includes\n"
            "waiting for the display, the processor time does not):\n"
-           "  time, median             %8.2f ms (%.0f frames a second)\n"
-           "  time, 99 of 100 within   %8.2f ms\n"
-           "  processor time, mean     %8.2f ms, all threads with the driver's\n",
+           "  time, median             %8.2f ms (%.0f frames per second)\n"
+           "  time, 99th percentile    %8.2f ms\n"
+           "  processor time, mean     %8.2f ms, including the driver's threads\n",
            options.frames, median, 1000 / median, times[(times.size() - 1) * 99 / 100],
            process / options.frames);
 }
 
-// The buffers are back under their old handles, cleared, so the scene is painted again. The font is
-// not back.
+// The buffers are restored under their handles, but cleared, so the scene is painted again. The font is
+// lost.
 bool Demo::LoseWindow(const Picture& before) {
     surface.ZoDestoryGLWindowSurface();
     OpenWindow();
@@ -151,8 +151,8 @@ bool Demo::LoseWindow(const Picture& before) {
     scene.Paint();
     scene.DrawFrame(shownMinute);
     const bool isSame = Save("osd-rebound.png").rgba == before.rgba;
-    printf("the frame after the loss of the window is %s the one before\n",
-           isSame ? "pixel for pixel" : "NOT");
+    printf("the frames before and after the loss of the window are %s\n",
+           isSame ? "identical" : "DIFFERENT");
     return isSame;
 }
 
@@ -189,10 +189,10 @@ int main(int argc, char* argv[]) {
     if (!ReadOptions(argc, argv, &options)) {
         return exitBadOption;
     }
-    // These parts of the library log good news and missing characters as errors. Their failures are
-    // result codes, too.
+    // These parts of the library log informational lines and missing characters as errors. Their
+    // failures are also reported by result codes.
     setenv("ANDROID_LOG_TAGS", "EGLManager:F FBOManager:F OSDText:F *:E", 0);
-    std::error_code error; // if the folder cannot be created, nor can the first picture
+    std::error_code error; // not checked: without the folder, saving the first picture fails
     std::filesystem::create_directories(options.outputFolder, error);
     return Demo(options).Run() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -64,10 +64,10 @@ enum ZoResult : int {
     ZO_PROGRAM_FAILED = 20,     ///< a shader program could not be built
     ZO_FREETYPE_FAILED = 30,    ///< FreeType could not be initialised
     ZO_FONT_FACE_FAILED = 31,   ///< the font file could not be opened
-    ZO_FONT_ATLAS_EMPTY = 32,   ///< the font or text has no visible glyph, or no font is open
+    ZO_FONT_ATLAS_EMPTY = 32,   ///< the font or text has no visible glyph, or no font is loaded
     ZO_FAILURE = 100,           ///< any other failure; the log has the details
     ZO_INVALID_PARAM = 101,  ///< a null pointer, an unknown handle, or a target of size 0 for text
-    ZO_NO_FBO_MANAGER = 102, ///< a buffer was destroyed while the surface has no buffer pool
+    ZO_NO_FBO_MANAGER = 102, ///< the buffer cannot be destroyed: the surface has no buffer pool
 };
 
 /// Components that `ZoGLDrawSurface::Init` creates. Combine them with bitwise or.
@@ -199,8 +199,8 @@ public:
     /// the window's size.
     ///
     /// If the surface is bound already, it moves to the new window and keeps every buffer, font and
-    /// component. What you draw under ZO_WINDOW_HANDLE then keeps the old window's scale; unbind
-    /// first if the sizes differ. If the surface was unbound, its buffers are restored, unless a
+    /// component. Drawing with ZO_WINDOW_HANDLE then keeps the old window's scale; unbind first
+    /// if the sizes differ. If the surface was unbound, its buffers are restored, unless a
     /// drawing operation was called on the unbound surface in the meantime.
     /// @param window owned by the client; must stay alive until it is unbound
     /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null window, which changes nothing; a code from
@@ -209,8 +209,8 @@ public:
     int ZoCreateGLWindowSurface(ANativeWindow* window);
 
     /// Unbinds the surface: releases EGL and destroys every component, font and buffer. Keeps the
-    /// buffers' handles and sizes for the next binding. On an unbound surface, it only drops what
-    /// failed drawing operations have created in the meantime.
+    /// buffers' handles and sizes for the next binding. On an unbound surface, it only destroys
+    /// what failed drawing operations have created in the meantime.
     void ZoDestoryGLWindowSurface();
 
     /// Creates the components whose `ZoComponent` bits are set and which do not exist yet. Ignores
@@ -300,8 +300,8 @@ public:
     /// Clears the whole window to transparent black, then blends an image from client memory onto
     /// it, as `ZoDisplayFBO` does. Uploads the pixels at every call and keeps no copy.
     /// @param info the image and its destination
-    /// @pre the surface is bound; `info->data` has width * height * 4 bytes, or is null: the
-    ///     image's content is undefined then
+    /// @pre the surface is bound; `info->data` has width * height * 4 bytes, or is null, which
+    ///     shows an image of undefined content
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, ZO_PROGRAM_FAILED or ZO_FAILURE
     int ZoDisplayBitmap(const tagZoBitmapInfo* info);
 
@@ -313,8 +313,8 @@ public:
     /// @param size glyph height in pixels for standard text and for measuring; 0 means 40
     /// @pre the surface is bound
     /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null path, which changes nothing; or a font code
-    ///     (30 to 32) or ZO_FAILURE, which drop the previous font. Until a font is loaded, text
-    ///     draws nothing: standard text returns ZO_SUCCESS and measures 30 pixels a unit, styled
+    ///     (30 to 32) or ZO_FAILURE, which unload the previous font. Until a font is loaded, text
+    ///     draws nothing: standard text returns ZO_SUCCESS and measures 30 pixels per unit, styled
     ///     text returns ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
     int ZoLoadFont(const char* path, unsigned int size);
 

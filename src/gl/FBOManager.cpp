@@ -37,7 +37,7 @@ GLuint CreateTexture(int width, int height, int format) {
 GLuint CreateFramebuffer(GLuint texture) {
     GLuint framebuffer = 0;
     glGenFramebuffers(1, &framebuffer);
-    if (framebuffer == 0) { // framebuffer 0 is the window: its status is not this buffer's
+    if (framebuffer == 0) { // do not bind it: 0 is the window, which has another status
         __android_log_print(LogError, tag, "%s", StatusMessage(0));
         return 0;
     }
@@ -86,7 +86,7 @@ int FBOManager::GLCreateFBO(unsigned int* handle, int width, int height, int for
     glBindTexture(GL_TEXTURE_2D, 0);
     UnbindTarget();
     if (framebuffer == 0) {
-        // Drawing would go to the window: with a target of size 0 it has no effect.
+        // Framebuffer 0 is the window. A target of size 0 keeps drawing from changing it.
         *slot = {number, texture, 0, 0, 0};
         return ZO_SUCCESS;
     }

@@ -29,7 +29,7 @@ __attribute__((noinline)) Entry* FirstEntry(Entry (&entries)[Count], unsigned in
     return nullptr;
 }
 
-/// The entry with that handle, or null. A client can pass ZO_NO_HANDLE: it never matches.
+/// The entry with that handle, or null. ZO_NO_HANDLE, which a client can pass, never matches.
 template <typename Entry, size_t Count>
 Entry* FindEntry(Entry (&entries)[Count], unsigned int handle) {
     if (handle == ZO_NO_HANDLE) {
@@ -44,7 +44,7 @@ Entry* FindEntry(Entry (&entries)[Count], unsigned int handle) {
 ///
 /// Slot 0 is the window under ZO_WINDOW_HANDLE; slots 1 to 15 hold the off-screen buffers, each a
 /// texture attached to a framebuffer object, both owned by the pool. A restored buffer keeps its
-/// handle, whatever slot it gets. New handles differ from all handles in use.
+/// handle in any slot. New handles differ from all handles in use.
 class ZOGLES_API FBOManager {
 public:
     static constexpr int slotCount = 16;
@@ -58,11 +58,11 @@ public:
 
     /// Creates a buffer in the lowest free slot, transparent black. The framebuffer's status is
     /// logged and otherwise ignored.
-    /// @param handle receives the new handle; with `reuseHandle`, gives the one to use, where
+    /// @param handle receives the new handle; with `reuseHandle`, contains the handle to use, where
     ///     ZO_NO_HANDLE is treated like a full pool
     /// @param format GL pixel format of the texture
     /// @pre with `reuseHandle`, the handle names no target yet
-    /// @return ZO_SUCCESS, or ZO_NO_FREE_FBO, with `*handle` untouched
+    /// @return ZO_SUCCESS, or ZO_NO_FREE_FBO, with `*handle` unchanged
     int GLCreateFBO(unsigned int* handle, int width, int height, int format, bool reuseHandle);
 
     /// Chooses the handle of the next buffer: the number of its slot or, if a buffer or a record
@@ -72,7 +72,7 @@ public:
     unsigned int NewHandle(const TagFboInfo (&records)[slotCount]) const;
 
     /// Copies the target with that handle, the window included.
-    /// @return whether there is one; `out` is untouched if not
+    /// @return false if there is none; `out` is unchanged then
     ZOGLES_INLINE bool GetFBOInst(unsigned int handle, tagFrameBuffObject* out) const {
         const tagFrameBuffObject* target = FindEntry(slots, handle);
         if (target == nullptr) {

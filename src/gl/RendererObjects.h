@@ -37,7 +37,7 @@ constexpr char texturedVertexSource[] = "attribute vec4 coord;\n"
                                         "    texpos = coord.zw;\n"
                                         "}\n";
 
-/// Replaces a renderer's objects by new ones and looks up the attribute, then the uniforms.
+/// Replaces a renderer's objects with new ones and looks up the attribute, then the uniforms.
 /// @return ZO_SUCCESS, or ZO_PROGRAM_FAILED, which is logged and leaves program and buffer 0
 int BuildRenderer(const ProgramSource& source, const RendererObjects& objects,
                   const Location& attribute, std::initializer_list<Location> uniforms);

@@ -115,7 +115,7 @@ void ShaderProgram::PrintLog(unsigned int object) const {
     GLint length = 0;
     const auto getParameter = isShader ? glGetShaderiv : glGetProgramiv;
     getParameter(object, GL_INFO_LOG_LENGTH, &length);
-    // One byte more than the driver counts, so that an empty log is an empty text.
+    // One byte more than the driver reports, so that an empty log is an empty string.
     const size_t size = length > 0 ? static_cast<size_t>(length) : 0;
     const std::unique_ptr<char[]> text(new (std::nothrow) char[size + 1]());
     if (!text) {

@@ -7,11 +7,11 @@
 #include <cstddef>
 
 /// One vertex: a position, and two floats whose meaning depends on the shader (z and w, or the
-/// texture coordinates s and t). Arithmetic applies to each of the four floats by itself, as GCC
+/// texture coordinates s and t). Arithmetic applies to each of the four floats separately, as GCC
 /// and Clang define it for vector types.
 using Vertex = float __attribute__((vector_size(4 * sizeof(float))));
 
-/// The corners of a rectangle, by their place on the screen.
+/// The corners of a rectangle, by their position on the screen.
 struct Corners {
     Vertex topLeft;
     Vertex topRight;

@@ -28,8 +28,8 @@ inline void DrawQuad(const Vertex (&quad)[4]) {
     glDrawElements(GL_TRIANGLES, 6, GL_UNSIGNED_SHORT, indices);
 }
 
-/// Draws the region `texRect` of a buffer (texture space) at `posRect` (vertex space), corner upon
-/// corner.
+/// Draws the region `texRect` of a buffer (texture space) at `posRect` (vertex space), without
+/// flipping it.
 inline void DrawRegion(const tagRectInfo& texRect, const tagRectInfo& posRect) {
     const Corners corners =
         SpanCorners(Vertex{posRect.x, posRect.y, texRect.x, texRect.y},
@@ -37,8 +37,8 @@ inline void DrawRegion(const tagRectInfo& texRect, const tagRectInfo& posRect) {
     DrawQuad({corners.bottomLeft, corners.bottomRight, corners.topLeft, corners.topRight});
 }
 
-/// Makes the window the target and clears it to transparent black, as presentation and bitmap both
-/// start.
+/// Makes the window the target and clears it to transparent black: the first step of presentations
+/// and bitmaps.
 /// @param width,height the window's size in pixels
 inline void ClearWindow(int width, int height) {
     BindTarget(0, width, height);

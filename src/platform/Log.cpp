@@ -31,7 +31,7 @@ int WriteLine(const char* prefix, size_t prefixLength, const char* text, size_t 
     ssize_t written = 0;
     do {
         written = write(STDERR_FILENO, line, prefixLength + length + 1);
-    } while (written < 0 && errno == EINTR); // a signal arrived while a full pipe blocked
+    } while (written < 0 && errno == EINTR); // a signal interrupted the wait for a full pipe
     return static_cast<int>(written);
 }
 
@@ -53,7 +53,7 @@ int WriteMessage(int priority, const char* tag, const char* text) {
     return total;
 }
 
-// Separate from the filter, so that a dropped message does not set up these buffers.
+// Separate from the filter, so that a message that is not shown does not use this stack space.
 __attribute__((noinline, format(printf, 3, 0))) int Format(int priority, const char* tag,
                                                            const char* format, va_list arguments) {
     char text[maxMessage + 1];

@@ -1,5 +1,5 @@
 /// @file
-/// The log, with the platform's interface. Platforms that have this log use theirs.
+/// The log, with the platform's interface. Platforms that have this log use their own.
 #ifndef ZOGLES_PLATFORM_LOG_H
 #define ZOGLES_PLATFORM_LOG_H
 
@@ -31,7 +31,7 @@ enum LogPriority : int {
     LogDebug = 3,
     LogWarning = 5,
     LogError = 6,
-    LogSilent = 8, ///< for filters: nothing is logged at it
+    LogSilent = 8, ///< only for filters: no message has this priority
 };
 
 /// Logs that an allocation failed.

@@ -6,7 +6,7 @@
 #include <GLES2/gl2.h>
 #include <new>
 
-// Replaces the pool, with its buffers, by a new one.
+// Replaces the pool and its buffers with an empty pool.
 int ZoGLDrawSurface::CreatePool() {
     FBOManager* pool = new (std::nothrow)
         FBOManager(static_cast<int>(windowWidth), static_cast<int>(windowHeight));

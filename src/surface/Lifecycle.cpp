@@ -66,7 +66,7 @@ void ZoGLDrawSurface::ZoDestoryGLWindowSurface() {
 }
 
 // If the context still exists, it is destroyed last. After a release, the other deletions run
-// without a context: GL ignores them, because their objects were destroyed with the context.
+// without a context and have no effect: GL has already deleted the objects with the context.
 void ZoGLDrawSurface::ResetGLSource() {
     fontAtlas.reset();
     fontStyleAtlas.reset();

@@ -81,8 +81,8 @@ inline int ZoGLDrawSurface::FindTarget(unsigned int handle, tagFrameBuffObject* 
     return ZO_INVALID_PARAM;
 }
 
-/// Replaces a component by a new one, built from `args`, and initialises it. A component that fails
-/// is destroyed, so that the next attempt starts from scratch.
+/// Replaces a component with a new one, built from `args`, and initialises it. If this fails, the
+/// component is destroyed, so that the next attempt starts from scratch.
 /// @param failureFormat format of the log line on failure, with the component's code as argument
 /// @return ZO_SUCCESS, or the public code for the component's code
 template <typename Component, typename... Args>

@@ -8,7 +8,7 @@ namespace {
 // billion characters would take hours.
 constexpr FT_ULong lastCharacter = 0x10FFFF;
 
-// Calls `visit` with every character that the face maps, rendered, in ascending order.
+// Renders every character that the face maps, in ascending order, and passes each to `visit`.
 constexpr auto visitFace = [](const auto& visit, FT_Face face) {
     FT_UInt index = 0;
     for (FT_ULong code = FT_Get_First_Char(face, &index); index != 0 && code <= lastCharacter;

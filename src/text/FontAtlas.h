@@ -11,7 +11,7 @@
 /// One texture with every character that a font maps, at one pixel size, and the metrics of each.
 /// Built when a font is loaded, then only read. Keeps no FreeType object.
 ///
-/// A load first drops the old atlas, so the atlas is empty after a failure. Loading needs the
+/// Loading first empties the atlas, so the atlas is empty after a failure. Loading needs the
 /// surface's GL context; it leaves texture unit 1 active with no texture bound and an unpack
 /// alignment of 1.
 class ZOGLES_API FontAtlas {
@@ -31,7 +31,7 @@ public:
     /// @return ZO_SUCCESS, ZO_FONT_ATLAS_EMPTY or ZO_FAILURE
     int LoadFont(FT_Face face, unsigned int size);
 
-    /// Finds the texture's size for the face's characters at its present size.
+    /// Finds the texture's size for the face's characters at its current size.
     /// @return ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
     int CalculateTexSize(FT_Face face);
 

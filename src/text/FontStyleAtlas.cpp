@@ -7,8 +7,8 @@ namespace {
 // Moves each point of a glyph to the right by a fifth of its height.
 constexpr FT_Matrix slant = {0x10000, 0x3333, 0, 0x10000};
 
-// Calls `visit` with every unit of the text that can be loaded, rendered, in order. Emboldens here,
-// so that sizing and rendering see the same bitmaps.
+// Renders every unit of the text that can be loaded, in order, and passes each to `visit`.
+// Emboldens here, so that sizing and filling get the same bitmaps.
 constexpr auto visitText = [](const auto& visit, FT_Face face, const tagTextInfo& info) {
     if (face == nullptr) {
         return;

@@ -6,13 +6,13 @@
 // Texts with up to this many distinct characters need no second allocation.
 constexpr size_t usualText = 64;
 
-// Returns the index slot of a code; 0 in it means no entry. Adds the page if it is missing.
+// Returns the index slot of a code; a slot of 0 means no entry. Adds the page if it is missing.
 std::uint32_t* GlyphMap::Table::MakeIndex(unsigned long code) {
     const unsigned long number = code / pageSize;
     auto page = pages.find(number);
     if (page == pages.end()) {
         const auto start = static_cast<std::uint32_t>(indices.size());
-        indices.resize(start + pageSize); // before the page is registered: either step can throw
+        indices.resize(start + pageSize); // before the page is registered, because this can throw
         page = pages.emplace(number, start).first;
         if (number < unitPages) {
             startOfUnits[number] = start;

@@ -29,7 +29,7 @@ static_assert(sizeof(tagGlyphInfo) == 8 * sizeof(float));
 /// An ordered map from character code to glyph.
 ///
 /// Copying takes constant time: copies share one table until one of them is written to. Looking up
-/// a UTF-16 unit takes a few instructions, whatever the font. Iterators are constant and valid
+/// a UTF-16 unit takes a few instructions for any font. Iterators are constant and valid
 /// until the next write; references are valid until the next write or copy.
 class ZOGLES_API GlyphMap {
 public:

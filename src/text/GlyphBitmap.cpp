@@ -18,7 +18,7 @@ bool HasFewerGrays(const FT_Bitmap& bitmap) {
     return bitmap.num_grays > 1 && bitmap.num_grays < 256;
 }
 
-// A pitch below the width means that the font has no pitch, and so no padding.
+// A pitch below the width is invalid; the rows then have no padding.
 bool IsTightCoverage(const FT_Bitmap& bitmap) {
     const int width = static_cast<int>(bitmap.width);
     return !IsOtherMode(bitmap) && !HasFewerGrays(bitmap) &&

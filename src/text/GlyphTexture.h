@@ -1,5 +1,5 @@
 /// @file
-/// What both atlases share: creating the texture and filling it with glyphs.
+/// Code that both atlases share: creates the texture and fills it with glyphs.
 #ifndef ZOGLES_TEXT_GLYPHTEXTURE_H
 #define ZOGLES_TEXT_GLYPHTEXTURE_H
 
@@ -59,7 +59,7 @@ bool UploadGlyph(FT_GlyphSlot glyph, unsigned int x, unsigned int y);
 /// If there is a texture, deletes it, clears the records and sets the size to 0.
 void DropAtlas(GLuint& texture, unsigned int& width, unsigned int& height, GlyphMap& glyphs);
 
-/// The record of the slot's glyph in an atlas of `width` by `height` pixels, its cell at (x, y).
+/// The record of the slot's glyph in an atlas of `width` by `height` pixels, with its cell at (x, y).
 tagGlyphInfo DescribeGlyph(FT_GlyphSlot glyph, int x, int y, unsigned int width,
                            unsigned int height);
 

@@ -80,7 +80,7 @@ bool OSDText::FindCharFromMap(char16_t unit) const {
 void OSDText::GetTextSize(const tagTextInfo* info, unsigned int* width,
                           unsigned int* height) const {
     const GlyphMap::Units standard = fontAtlas->GetGlyphs().ReadUnits();
-    const GlyphMap::Units units = standard; // kept in registers, which a call's result is not
+    const GlyphMap::Units units = standard; // the compiler keeps this copy in registers
     const char16_t* const end = info->text + info->length;
     unsigned int total = 0;
     for (const char16_t* unit = info->text; unit != end; ++unit) {

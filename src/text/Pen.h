@@ -9,7 +9,7 @@
 #include <cstring>
 
 /// Whether a glyph's bitmap starts left of the pen and is wider than its advance. Such a glyph is
-/// drawn from the pen on and measured by its bitmap.
+/// drawn starting at the pen and measured by its bitmap.
 inline bool IsOverhanging(const tagGlyphInfo& glyph) {
     return glyph.bitmapLeft < 0.0f && glyph.advanceX > 0.0f && glyph.advanceX < glyph.bitmapWidth;
 }

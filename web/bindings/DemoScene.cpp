@@ -1,4 +1,4 @@
-// The demo's scene, for a page to show.
+// The demo's scene, for the page.
 
 #include "osd/Scene.h"
 
@@ -10,9 +10,9 @@ namespace {
 
 using emscripten::val;
 
-constexpr int scrollStep = 1; // pixels of the design in a frame
+constexpr int scrollStep = 1; // pixels of the design per frame
 
-// A picture that the page decoded, an ImageData.
+// Converts an ImageData, which the page decoded.
 Picture ToPicture(const val& image) {
     const auto rgba = image["data"].as<std::string>();
     return {image["width"].as<unsigned int>(),
@@ -20,7 +20,7 @@ Picture ToPicture(const val& image) {
             {rgba.begin(), rgba.end()}};
 }
 
-/// The scene, and what it is drawn with, on a surface that outlives it.
+/// The scene and its drawing tools, on a surface that outlives them.
 class DemoScene {
 public:
     /// @pre the surface is bound
@@ -33,10 +33,10 @@ public:
     /// Creates the scene's buffers, once: their handles stay valid after a loss of the window.
     void CreateBuffers() { scene.CreateBuffers(); }
 
-    /// Loads a font at the size that the scene is laid out for.
+    /// Loads a font at the size of the scene's layout.
     void LoadFont(const std::string& path) { canvas.LoadFont(path, layout.standardText); }
 
-    /// Paints everything that does not move, in the font that is loaded.
+    /// Paints the static parts with the loaded font.
     void Paint() { scene.Paint(); }
 
     void Scroll() { scene.ScrollMenu(layout.Scale(scrollStep)); }
@@ -48,7 +48,7 @@ public:
         canvas.Refresh();
     }
 
-    /// False once anything of the scene has failed.
+    /// False once an operation of the scene has failed.
     bool IsGood() const { return canvas.IsGood(); }
 
 private:

@@ -11,7 +11,7 @@ namespace {
 
 constexpr char tag[] = "FontReport";
 
-// A font need not have a name.
+// The name is null for a font without a name.
 std::string NameOf(const FT_String* name) {
     return name == nullptr ? "" : name;
 }
@@ -36,8 +36,8 @@ void CountCharacters(FT_Face face, const GlyphMap& glyphs, emscripten::val& repo
     report.set("leftOut", emscripten::val::array(leftOut.begin(), leftOut.end()));
 }
 
-// The surface does not reveal its atlas, so another one is built the same way.
-// Logs what the load logs, once more.
+// Builds a second atlas in the same way, because the surface does not give access to its own.
+// Therefore the messages of loading are logged twice.
 emscripten::val DescribeFont(const std::string& path, unsigned int size) {
     emscripten::val report = emscripten::val::object();
     FT_Library library = nullptr;

@@ -1,4 +1,4 @@
-// The library's one class and its records, under their own names.
+// The library's class and its records, under their C++ names.
 
 #include "platform/LogFilter.h"
 
@@ -12,8 +12,7 @@ using emscripten::value_object;
 
 namespace {
 
-// The platform's window is the page's canvas, which Emscripten finds itself: any value but null stands
-// for it.
+// Emscripten finds the page's canvas itself: any value but null means this canvas.
 int Bind(ZoGLDrawSurface& surface, bool hasWindow) {
     const uintptr_t canvas = hasWindow ? 1 : 0;
     return surface.ZoCreateGLWindowSurface(reinterpret_cast<ANativeWindow*>(canvas));
@@ -56,7 +55,7 @@ int LoadFont(ZoGLDrawSurface& surface, const std::string& path, unsigned int siz
     return surface.ZoLoadFont(path.c_str(), size);
 }
 
-// The library reads `length` units, so the text must have as many.
+// Limits `length` to the text, because the library reads that many units.
 tagZoTextInfo MakeRecord(const std::u16string& text, unsigned int length) {
     tagZoTextInfo info = {};
     info.text = text.c_str();

@@ -1,12 +1,12 @@
-// Prints a script with the page's texts on result codes and operations, from the library's header and
-// guide:
+// Prints a script with the page's texts about result codes and operations, taken from the library's header
+// and guide:
 //   node describe.mjs ZoGLDrawSurface.h when-something-fails.md >library.js
 import { readFileSync } from 'node:fs';
 
 const [header, guide] = process.argv.slice(2).map((path) => readFileSync(path, 'utf8'));
 
 /**
- * The prose of a comment: no markers, no line breaks within a paragraph.
+ * The text of a comment, without markers and line breaks within a paragraph.
  *
  * @param {string} comment
  */
@@ -34,7 +34,7 @@ function describeResults() {
     return results;
 }
 
-/** The first paragraph of what the header says of each operation. */
+/** The first paragraph of each operation's docblock. */
 function describeOperations() {
     /** @type {Record<string, string>} */
     const operations = {};

@@ -1,14 +1,14 @@
-// Corrects Emscripten's EGL and GL: calls without a current context, destroyed contexts, and images without
+// Fixes Emscripten's EGL and GL: calls without a current context, destroyed contexts, and images without
 // pixels.
 //
 // On other platforms a call without a context has no effect, and destroying a context destroys its objects.
-// Emscripten's calls use the current context without a check, and its tables keep the objects for ever, so
-// that the browser cannot free their context either.
+// Emscripten's calls do not check for a current context, and its tables keep the objects, so that the browser
+// cannot free their context.
 mergeInto(LibraryManager.library, {
     $Contexts__deps: ['$GL'],
     $Contexts__postset: 'Contexts.install();',
     $Contexts: {
-        // The current context while there is none: every call returns null.
+        // Replaces the current context if there is none: every call returns null.
         none: null,
 
         install: function () {
@@ -59,7 +59,7 @@ mergeInto(LibraryManager.library, {
         },
     },
 
-    // Emscripten returns a name even if nothing was created.
+    // Emscripten returns a name even if WebGL creates no object.
     glCreateShader__deps: ['$GL', '$Contexts'],
     glCreateShader: function (type) {
         var shader = GLctx.createShader(type);

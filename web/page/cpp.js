@@ -1,4 +1,4 @@
-// The C++ that does the same as a form.
+// C++ code that does the same as a form.
 
 import { formatHandle, noHandle, windowHandle } from './targets.js';
 
@@ -42,7 +42,7 @@ const literals = {
 const types = { rect: 'tagZoRectInfo', pen: 'tagZoRectInfo', color: 'tagZoColorRGBA' };
 
 /**
- * Declares variables for all arguments that need one; buffers are created.
+ * Declares variables for all arguments that need one, and creates buffers.
  *
  * @param {import('./operations.js').Operation} operation
  * @param {Record<string, any>} values

@@ -1,4 +1,4 @@
-// Elements, events, and work that is put off.
+// Elements, events, and deferred work.
 
 /**
  * @template {keyof HTMLElementTagNameMap} Name
@@ -31,7 +31,7 @@ export function makeRow(cells, name = 'td') {
 }
 
 /**
- * The page's element of that id.
+ * The page's element with that id.
  *
  * @template {HTMLElement} Type
  * @param {string} id
@@ -56,11 +56,11 @@ export function notice(text) {
 }
 
 /**
- * Work that many events request, done at most once per pause, and always after the last request.
+ * Limits work that many events request: does it at most once per pause, and always after the last request.
  *
  * @param {() => void} work
  * @param {number} [pause] milliseconds
- * @returns {() => void} requests it
+ * @returns {() => void} requests the work
  */
 export function throttle(work, pause = 0) {
     let timer = 0;
@@ -72,7 +72,7 @@ export function throttle(work, pause = 0) {
     };
 }
 
-/** Emits events by name, each with at most one value. */
+/** Emits named events, each with at most one value. */
 export class Emitter {
     /** @type {Record<string, ((value: any) => void)[]>} */
     #listeners = {};

@@ -1,5 +1,5 @@
-// The library at work: its module, one surface on one canvas, and the losses of both. Of the page it
-// knows only where the canvas goes.
+// Runs the library: its module, one surface on one canvas, and the loss of both. Depends on no other part
+// of the page.
 
 import { Emitter, make } from './dom.js';
 import createLibrary from './libzogles.mjs';
@@ -12,8 +12,8 @@ import { findTarget, mostBuffers, readPixels, windowHandle } from './targets.js'
 
 export const windowSize = { width: 1280, height: 720 };
 
-// The library requests a plain context. The page requests one first, so that the window keeps its pixels
-// after they were shown; otherwise they are undefined then.
+// The page creates the context before the library does, so that the window keeps its pixels after they are
+// shown; by default they are undefined then.
 function createCanvas() {
     const label = 'The window that the library draws on';
     const canvas = make('canvas', { ...windowSize, role: 'img', 'aria-label': label });
@@ -25,7 +25,7 @@ function createCanvas() {
         preserveDrawingBuffer: true,
     });
     if (!context) {
-        throw new Error('the library draws with WebGL, and this browser has none.');
+        throw new Error('the library needs WebGL, which this browser does not support.');
     }
     return canvas;
 }
@@ -55,7 +55,7 @@ export class Engine extends Emitter {
     presentation = null;
 
     /**
-     * The targets by handle, the window first. While no window is bound, as they last were.
+     * The targets by handle, the window first. While no window is bound, those of the last binding.
      *
      * @type {Map<number, Target>}
      */
@@ -63,7 +63,7 @@ export class Engine extends Emitter {
 
     isBound = false;
 
-    /** Whether the browser took the context: the surface is bound again when it comes back. */
+    /** Whether the browser took the context. When it restores the context, the surface is bound again. */
     #isTaken = false;
 
     #isMuted = false;
@@ -120,7 +120,7 @@ export class Engine extends Emitter {
         this.canvas.remove();
     }
 
-    /** Looks at the targets again, after an operation that may have changed them. */
+    /** Updates the targets after an operation that may have changed them. */
     updateTargets() {
         if (!this.isBound || this.gl.isContextLost()) {
             return;
@@ -136,7 +136,7 @@ export class Engine extends Emitter {
     }
 
     /**
-     * The pixels of a target, or of a part of it; null where they cannot be read.
+     * The pixels of a target, or of a part of it; null if they cannot be read.
      *
      * @param {number} handle
      * @param {Rect} [rect]
@@ -153,7 +153,7 @@ export class Engine extends Emitter {
      *
      * @param {number} handle
      * @param {HTMLCanvasElement} canvas
-     * @returns {boolean} false where the pixels cannot be read
+     * @returns {boolean} false if the pixels cannot be read
      */
     copy(handle, canvas) {
         const picture = this.read(handle);
@@ -166,7 +166,7 @@ export class Engine extends Emitter {
 
     /**
      * @template T
-     * @param {() => T} work the page's own, which the visitor did not ask for
+     * @param {() => T} work calls that the visitor did not request
      */
     withoutLog(work) {
         const wasMuted = this.#isMuted;
@@ -199,7 +199,7 @@ export class Engine extends Emitter {
         return targets;
     }
 
-    // A destroyed window may lose its context later, which concerns nothing any more.
+    // Events of a destroyed window's canvas are ignored.
     #placeCanvas() {
         const { canvas } = this;
         canvas.addEventListener('webglcontextlost', (event) => {

@@ -1,5 +1,5 @@
-// The fields of a form: each an element, and a way to read and to write its value. The browser's own
-// validation rejects what a record cannot hold, such as a negative number.
+// The fields of a form: each has an element and functions that read and write its value. The browser's
+// validation rejects values that a record cannot hold, such as negative numbers.
 
 import { make } from './dom.js';
 import { formatHandle, noHandle, windowHandle } from './targets.js';
@@ -53,7 +53,7 @@ const makeInput = (field, input, property = 'value') => ({
 });
 
 /**
- * A group of numbers, with zeros for those of a rectangle that it has no fields for.
+ * A group of numbers. Members of a rectangle without a field are 0.
  *
  * @param {NamedField} field
  * @param {number} [most]
@@ -108,10 +108,10 @@ function makeColor(field) {
     const picker = make('input', { type: 'color', 'aria-label': `${field.name}, picked` });
     const show = () => {
         if (numbers.element.matches(':invalid')) {
-            return; // the picker has no such colour
+            return; // the picker cannot show these values
         }
         const { r, g, b } = numbers.read();
-        // As bright as the library draws it.
+        // Shows the intensity that the library draws.
         const digits = [r, g, b].map((channel) => (channel === 1 ? 255 : channel).toString(16));
         picker.value = `#${digits.map((digit) => digit.padStart(2, '0')).join('')}`;
     };
@@ -157,7 +157,7 @@ function makeFlags({ name, value }) {
 }
 
 /**
- * The live targets, and handles without a buffer to try; a chosen handle stays when its buffer goes.
+ * The live targets, and some handles without a buffer. A chosen handle stays after its buffer is destroyed.
  *
  * @param {ReturnType<Choices['targets']>} targets
  * @param {string} chosen

@@ -102,7 +102,7 @@ export class Files extends Emitter {
     }
 
     /**
-     * Each file gets another path: a loaded font stays open and must not be overwritten.
+     * Each file gets a new path, because a loaded font stays open and must not be overwritten.
      *
      * @param {string} path
      * @param {Uint8Array} data
@@ -120,7 +120,7 @@ export class Files extends Emitter {
         const { gl } = this.engine;
         const most = gl.getParameter(gl.MAX_TEXTURE_SIZE) ?? 0;
         if (picture.width > most || picture.height > most) {
-            this.#say(`${file.name} is too large: textures have up to ${most} pixels a side here.`);
+            this.#say(`${file.name} is too large: textures have up to ${most} pixels per side.`);
             return;
         }
         this.pictures.set(file.name, picture);
@@ -149,13 +149,13 @@ export class Files extends Emitter {
         }
     }
 
-    /** A load that fails also discards the font before. */
+    /** Loads the previous font again, because a failed load discards it. */
     #loadLast() {
         const { path, size } = this.#last;
         const code = this.engine.withoutLog(() => this.engine.surface.ZoLoadFont(path, size));
         return code === 0
-            ? 'A failed load discards the font before it; the page has loaded that font again.'
-            : `A failed load discards the font before it, and loading that again gave ${code}.`;
+            ? 'A failed load discards the previous font; the page has loaded it again.'
+            : `A failed load discards the previous font; loading it again returned ${code}.`;
     }
 
     /**

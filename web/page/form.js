@@ -1,4 +1,4 @@
-// The form of one operation: its fields, its result, and the C++ that does the same.
+// The form of one operation: its fields, its result, and the same call in C++.
 
 import { writeCpp } from './cpp.js';
 import { Emitter, make } from './dom.js';
@@ -104,7 +104,7 @@ export class Form extends Emitter {
             this.#copy.textContent = 'Copied';
             setTimeout(() => (this.#copy.textContent = 'Copy the C++'), 1500);
         } catch {
-            getSelection()?.selectAllChildren(this.#code); // there is no clipboard without TLS or permission
+            getSelection()?.selectAllChildren(this.#code); // without TLS or permission there is no clipboard
         }
     }
 
@@ -115,7 +115,7 @@ export class Form extends Emitter {
         this.#code.textContent = writeCpp(this.operation, this.values, this.choices);
         this.#copy.disabled = this.element.matches(':invalid');
         if (event) {
-            this.#result.replaceChildren(); // it belongs to other values
+            this.#result.replaceChildren(); // the result belongs to other values
         }
         this.emit('change');
     }
@@ -125,7 +125,7 @@ export class Form extends Emitter {
         return this.widgets.find(({ key }) => key === name);
     }
 
-    // The length must not exceed the text. It follows the text that a visitor types.
+    // Keeps the length equal to the text while the visitor types, and rejects a longer one.
     /** @param {EventTarget | null} [source] */
     #limitLength(source) {
         const [text, length] = [this.#find('text')?.input, this.#find('length')?.input];
@@ -140,7 +140,7 @@ export class Form extends Emitter {
         const { data, width, height } = this.values;
         if (data) {
             const isTooLarge = data.length > 0 && width * height * 4 > data.length;
-            const message = isTooLarge ? 'The picture has fewer pixels than that.' : '';
+            const message = isTooLarge ? 'The picture has fewer pixels.' : '';
             this.#find('width')?.input?.setCustomValidity(message);
         }
     }

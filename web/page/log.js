@@ -1,4 +1,4 @@
-// The platform's log: lines as they arrive, filtered by the library's own filter.
+// The platform's log, filtered by the library's filter.
 
 import { find, make, throttle } from './dom.js';
 
@@ -16,7 +16,7 @@ export function parseLine(line) {
 
 /**
  * @param {LogLine} line
- * @param {number} count how often it came in a row
+ * @param {number} count repetitions in a row
  */
 export function makeLine({ priority, tag, text }, count = 1) {
     const times = count > 1 ? ` ×${count}` : '';
@@ -71,7 +71,7 @@ export class LogPanel {
         const isAtEnd = scrollTop + clientHeight > scrollHeight - 8;
         this.list.replaceChildren(...shown.map((entry) => makeLine(entry, entry.count)));
         if (isAtEnd) {
-            this.list.scrollTop = this.list.scrollHeight; // a reader further up is not disturbed
+            this.list.scrollTop = this.list.scrollHeight; // only if the reader has not scrolled up
         }
         const hidden = this.#entries.length - shown.length;
         this.hidden.textContent = hidden === 0 ? '' : `${hidden} filtered out`;

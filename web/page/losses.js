@@ -1,4 +1,4 @@
-// The loss of the window and of the whole WebGL context, and what comes back after each.
+// Loses the window or the WebGL context, and shows what is restored afterwards.
 
 import { Emitter, find, make } from './dom.js';
 import { windowHandle } from './targets.js';
@@ -9,7 +9,7 @@ function listBuffers(engine) {
 }
 
 /**
- * What a binding restored, found by calls and by reading pixels.
+ * Describes what a binding restored, found by calls and by reading pixels.
  *
  * @param {import('./engine.js').Engine} engine
  * @param {number[]} before the handles before the loss
@@ -23,7 +23,7 @@ function findFacts(engine, before) {
     return [
         `${back.length} of ${before.length} buffers are back, with the same handles.`,
         isBlank ? 'Their pixels are lost: all are transparent black.' : 'Their pixels are kept.',
-        code === 0 ? 'The font is kept.' : `The font is lost: measuring a text gives ${code}.`,
+        code === 0 ? 'The font is kept.' : `The font is lost: measuring a text returns ${code}.`,
         'The page then loads its font and paints the scene again, if enough buffers are free.',
     ];
 }

@@ -12,7 +12,7 @@ const scale = 8;
 const pauseBetweenLooks = 100; // milliseconds; the browser waits for the GPU to read pixels
 
 /**
- * The pixel of one rectangle that corresponds to a pixel of another; null outside.
+ * The pixel of one rectangle that corresponds to a pixel of another one; null outside.
  *
  * @param {Rect} from
  * @param {Rect} to
@@ -86,7 +86,7 @@ export class Magnifier {
         this.#drawLens();
     }
 
-    // The pixel of the buffer and the pixel of the window that shows it, as far as there are both.
+    // The pixel of the buffer and the pixel of the window that shows it; null if there is none.
     /** @returns {(Pixel | null)[]} */
     #findPair() {
         const pixel = this.#pixel;
@@ -100,7 +100,7 @@ export class Magnifier {
         if (!place) {
             return [null, pixel];
         }
-        // Beyond its sides, a buffer's edge pixels repeat.
+        // Outside a buffer, its edge pixels repeat.
         const { handle } = presentation;
         const { width, height } = targets.get(handle) ?? { width: 1, height: 1 };
         const x = Math.min(place.x, width - 1);
@@ -132,7 +132,7 @@ export class Magnifier {
         const { handle, x, y } = this.#pixel;
         const rect = { x: x - reach, y: y - reach, width: side, height: side };
         const picture = this.engine.read(handle, rect) ?? new ImageData(side, side);
-        // The window's colours are already multiplied by alpha, and shown on black.
+        // The window's colours are already multiplied by alpha, so they are shown opaque.
         for (let i = 3; handle === windowHandle && i < picture.data.length; i += 4) {
             picture.data[i] = 255;
         }

@@ -16,7 +16,7 @@ import { windowHandle } from './targets.js';
 import { Workbench } from './workbench.js';
 
 /**
- * A buffer for the visitor to draw into, with some contents.
+ * Creates a buffer for the visitor, with some contents.
  *
  * @param {Engine} engine
  */
@@ -36,7 +36,7 @@ function wirePlayer(player) {
         button.textContent = player.isPlaying ? 'Pause' : 'Play';
         button.disabled = !engine.isBound;
         if (engine.isBound && !player.isGood) {
-            notice('The scene has stopped: it has lost a buffer. Play creates the scene again.');
+            notice('The scene has stopped: it has lost a buffer. Press Play to create it again.');
         }
     };
     button.addEventListener('click', () => {
@@ -101,7 +101,7 @@ async function start() {
     new LogPanel(engine);
     const code = engine.bind();
     if (code !== 0) {
-        throw new Error(`binding the canvas gave ${code}.`);
+        throw new Error(`binding the canvas returned ${code}.`);
     }
     const player = new Player(engine, ownFont, await fetchScenePictures());
     engine.withoutLog(() => {

@@ -4,7 +4,7 @@ import { Emitter, find, make } from './dom.js';
 import { Form } from './form.js';
 import { operations } from './operations.js';
 
-/** Emits "choose" when another form is shown, and "change" and "run" of the shown one. */
+/** Emits "choose" when another form is shown, and the shown form's "change" and "run". */
 export class OperationsPanel extends Emitter {
     /** @type {Map<string, HTMLInputElement>} */
     #radios = new Map();

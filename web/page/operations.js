@@ -1,4 +1,4 @@
-// Every operation of the library: its call, as C++ writes it, and the fields of its arguments.
+// Every operation of the library: its call in C++, and the fields of its arguments.
 
 import { formatHandle, windowHandle } from './targets.js';
 
@@ -10,30 +10,30 @@ import { formatHandle, windowHandle } from './targets.js';
  * @typedef {object} Field
  * @property {'handle' | 'rect' | 'pen' | 'color' | 'number' | 'format' | 'text' | 'check' | 'flags' | 'font' |
  *     'picture' | 'window'} kind
- * @property {any} value what the form starts with
+ * @property {any} value the form's initial value
  * @property {string} [target] for a rectangle or a pen: the field with its target; without it, the window
  * @property {string} [hint]
  */
 
 /**
- * The result of an operation. Without a code it returns nothing.
+ * The result of an operation; without a code, the operation returns nothing.
  *
  * @typedef {object} Outcome
  * @property {number} [code]
- * @property {string} [note] what else it gave
- * @property {{ width: number, height: number }} [box] the size that it measured
+ * @property {string} [note] its other results
+ * @property {{ width: number, height: number }} [box] the measured size
  */
 
 /**
  * @typedef {object} Operation
  * @property {'Window' | 'Buffers' | 'Drawing' | 'Text'} group
- * @property {string} call in C++; `info` is the record, and `&` before a name that is no field marks an output
+ * @property {string} call in C++; `info` is the record, and `&` before a name without a field marks an output
  * @property {string} [record] the type of `info`, which has the fields that the call does not name
- * @property {string} [cppResult] the declaration of a result that is no code
+ * @property {string} [cppResult] the declaration of a result that is not a code
  * @property {Record<string, Field>} fields
- * @property {(engine: Engine, values: any) => any} [run] where the bindings' call takes other arguments
+ * @property {(engine: Engine, values: any) => any} [run] if the bindings' function takes other arguments
  * @property {(result: any, engine: Engine, values: any) => Outcome} [report] for results other than codes
- * @property {(values: any) => number} [drawsInto] the target that shows what it did
+ * @property {(values: any) => number} [drawsInto] the target that it changes
  */
 
 /** @type {(kind: Field['kind'], value: any, hint?: string) => Field} */
@@ -107,7 +107,7 @@ export const operations = {
         fields: {
             data: field('picture', 'poster.png'),
             format,
-            width: field('number', 360, 'at most as many pixels as the picture has'),
+            width: field('number', 360, 'at most the pixels of the picture'),
             height: field('number', 480),
             rect: rect(undefined, [460, 120, 360, 480]),
         },
@@ -201,7 +201,7 @@ export const operations = {
 };
 
 /**
- * Calls the library as the operation's C++ does.
+ * Makes the same call as the operation's C++.
  *
  * @param {Engine} engine
  * @param {string} name

@@ -21,9 +21,9 @@ const buffersToPaintWith = 2;
 
 const shownMinute = 32; // 21:47 by the scene's clock
 const lastMinute = 74;
-const minutesPerFrame = 1 / 60; // a minute per second
+const minutesPerFrame = 1 / 60; // one minute per second
 
-/** Fetches the pictures that the scene is made of. */
+/** Fetches the scene's pictures. */
 export async function fetchScenePictures() {
     const [background, glass, logo, volume] = await Promise.all(
         ['background', 'glass', 'logo', 'volume'].map(fetchPicture),
@@ -31,7 +31,7 @@ export async function fetchScenePictures() {
     return { background, glass, logo, volume };
 }
 
-/** Emits "state" when it starts or stops to play. */
+/** Emits "state" when it starts or stops playing. */
 export class Player extends Emitter {
     /** @type {Map<number, string>} the names of the scene's buffers, by handle */
     names = new Map();
@@ -58,7 +58,7 @@ export class Player extends Emitter {
         engine.on('targets', () => this.#checkBuffers());
     }
 
-    /** False once the scene cannot be drawn any more, for example after a buffer of it was destroyed. */
+    /** False once the scene cannot be drawn any more, for example because one of its buffers was destroyed. */
     get isGood() {
         return this.#scene?.IsGood() ?? false;
     }
@@ -70,7 +70,7 @@ export class Player extends Emitter {
     /**
      * Creates the scene again, and shows its first frame.
      *
-     * @returns {boolean} false if too few buffers are free; then nothing is changed
+     * @returns {boolean} false if too few buffers are free; nothing is changed then
      */
     restart() {
         const others = this.engine.targets.size - 1 - this.names.size;
@@ -107,7 +107,7 @@ export class Player extends Emitter {
         return this.rewrite();
     }
 
-    /** Fills the scene's buffers in the loaded font, and shows its first frame. */
+    /** Fills the scene's buffers, using the loaded font, and shows its first frame. */
     rewrite() {
         if (!this.isReady) {
             return false;
@@ -141,7 +141,7 @@ export class Player extends Emitter {
         }
     }
 
-    // Another buffer may get the handle of a destroyed one, and must not be drawn into.
+    // A new buffer may have the handle of a destroyed one, and must not be drawn into.
     #checkBuffers() {
         const gone = [...this.names.keys()].filter((handle) => !this.engine.targets.has(handle));
         gone.forEach((handle) => this.names.delete(handle));

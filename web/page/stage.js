@@ -1,4 +1,4 @@
-// The picture: one target, the window or a buffer, with the rectangles of the chosen form on it.
+// The picture: one target (the window or a buffer) and, on it, the rectangles of the chosen form.
 
 import { Emitter, find, make, throttle } from './dom.js';
 import { formatHandle, windowHandle } from './targets.js';
@@ -12,7 +12,7 @@ import { formatHandle, windowHandle } from './targets.js';
  * @property {string} label
  * @property {number} handle of its target
  * @property {Rect} rect
- * @property {boolean} isPen a place without a size
+ * @property {boolean} isPen a position without a size
  * @property {(rect: Rect) => void} move receives the dragged rectangle
  */
 
@@ -106,7 +106,7 @@ export class Stage extends Emitter {
         this.view(handles.includes(this.handle) ? this.handle : windowHandle);
     }
 
-    /** Shows what the target holds now, or why it cannot be shown. */
+    /** Shows the target's pixels, or the reason why they cannot be shown. */
     refresh() {
         const { engine, target, copy, message } = this;
         const isWindow = engine.isBound && this.handle === windowHandle;
@@ -182,7 +182,7 @@ export class Stage extends Emitter {
     /** @param {PointerEvent} event */
     #startDrag(event) {
         const part = event.target instanceof SVGElement ? event.target.dataset : {};
-        // A drag that starts outside all marks draws the first rectangle anew.
+        // A drag that starts outside all marks draws a new first rectangle.
         const mark = part.mark
             ? this.#marks[Number(part.mark)]
             : this.#marks.find(({ isPen, handle }) => !isPen && handle === this.handle);
@@ -213,7 +213,7 @@ function drawLabel({ x, y }, text, size) {
 }
 
 /**
- * A rectangle moved or resized by some pixels, without negative numbers, which its fields cannot hold.
+ * A rectangle moved or resized by some pixels. Clamps at 0, because its fields hold no negative numbers.
  *
  * @param {Rect} start
  * @param {number} dx

@@ -1,5 +1,4 @@
-// The targets that the library draws into, as WebGL has them: where they are, how large they are, and
-// which pixels they hold.
+// The library's targets in WebGL: their framebuffers, sizes and pixels.
 
 /** @typedef {import('./libzogles.mjs').Rect} Rect */
 /**
@@ -14,11 +13,11 @@ export const windowHandle = 0x10000;
 export const noHandle = 0xffffffff;
 export const mostBuffers = 15;
 
-const mostPixels = 4096 * 4096; // read at once
+const mostPixels = 4096 * 4096; // per read
 
 /**
- * Finds the framebuffer and the size of a handle. The library does not reveal them, but every drawing
- * operation binds the one and sets the viewport to the other, so an empty rectangle shows both.
+ * Finds the framebuffer and the size of a handle. The library does not report them, but every drawing
+ * operation binds the framebuffer and sets the viewport to its size, so drawing an empty rectangle shows both.
  * The surface must be bound: drawing on an unbound one would prevent the restoration of its buffers.
  *
  * @param {WebGLRenderingContext} gl
@@ -54,7 +53,7 @@ export function findTarget(gl, surface, handle) {
 }
 
 /**
- * Reads pixels as the target holds them, rows from the top. Pixels outside read as zeros.
+ * Reads the target's pixels, rows from the top. Pixels outside are zeros.
  *
  * @param {WebGLRenderingContext} gl
  * @param {Target} target

@@ -1,11 +1,11 @@
-// Connects forms and picture: the picture shows the form's rectangles, and the operation's effect.
+// Connects forms and picture: the picture shows the form's rectangles and the operation's effect.
 
 import { notice } from './dom.js';
 import { runOperation } from './operations.js';
 import { windowHandle } from './targets.js';
 
-// A text's height has no defined place. With the baseline this far below its top, it covers ascenders and
-// descenders.
+// The height of a text has no defined position. With the baseline this far below the top, the box covers
+// ascenders and descenders.
 const rise = 40;
 
 /**
@@ -105,13 +105,13 @@ export class Workbench {
         this.#mark();
     }
 
-    /** The place of the form that draws text, for texts that are only measured. */
+    /** The position in the form that draws text, for texts that are only measured. */
     get #pen() {
         return this.panel.forms.get('ZoDrawText')?.values ?? {};
     }
 
     /**
-     * Shows the target of the rectangle that the visitor fills in.
+     * Shows the target of the rectangle that the visitor is editing.
      *
      * @param {FocusEvent} event
      */
@@ -164,15 +164,15 @@ export class Workbench {
         try {
             return runOperation(this.engine, name, values);
         } catch {
-            // Not from the library: its arguments are copied first.
-            return { note: 'The page has not enough memory for this call.' };
+            // Thrown before the library is called, while its arguments are copied.
+            return { note: 'The page does not have enough memory for this call.' };
         }
     }
 
     /**
-     * Compares the size that the library reports of a text with the pixels that changed.
+     * Compares the measured size of a text with the pixels that changed.
      *
-     * @param {import('./operations.js').Outcome} outcome gets both
+     * @param {import('./operations.js').Outcome} outcome receives both
      * @param {any} values
      * @param {ImageData} before
      */

@@ -1,4 +1,4 @@
-// The program and the page of the guide, extracted from it.
+// Tests the guide's program and page, extracted from the guide.
 
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';

@@ -1,12 +1,12 @@
-// The browser that the tests drive. In every test no error may reach the console, no request may fail, and
-// no request may leave the page's own server.
+// The browser for the tests. Each test fails if an error reaches the console, if a request fails, or if a
+// request goes to another server.
 
 import assert from 'node:assert/strict';
 import { mkdirSync } from 'node:fs';
 import { after, afterEach, before } from 'node:test';
 import { chromium } from 'playwright-core';
 
-/** Where the playground is served, and where screenshots go: set by scripts/web --test. */
+/** The playground's address and the folder for screenshots, both set by scripts/web --test. */
 export const address = process.env.PLAYGROUND_ADDRESS ?? 'http://localhost:8000/';
 export const pictures = process.env.PLAYGROUND_PICTURES ?? 'out/web-test';
 
@@ -48,7 +48,7 @@ export function launchBrowser() {
 
 /**
  * @param {import('playwright-core').Page} page
- * @param {string[]} faults receives what goes wrong
+ * @param {string[]} faults receives all errors
  */
 export function watch(page, faults) {
     page.on('console', (message) => {
@@ -77,7 +77,7 @@ export class Playground {
     /** @type {import('playwright-core').Page} */
     page = /** @type {any} */ (undefined); // until it is opened
 
-    /** @type {string[]} what went wrong so far */
+    /** @type {string[]} all errors so far */
     faults = [];
 
     get panel() {
@@ -167,7 +167,7 @@ export class Playground {
 
     /** @param {string} name */
     async picture(name) {
-        await this.page.evaluate(() => scrollTo(0, 0)); // sticky parts stand at the top
+        await this.page.evaluate(() => scrollTo(0, 0)); // otherwise sticky parts cover others
         await this.page.screenshot({ path: `${pictures}/${name}.png`, fullPage: true });
     }
 }

@@ -1,4 +1,4 @@
-// Losses of the window and of the WebGL context: what comes back, and that nothing leaks.
+// Losses of the window and of the WebGL context: what is restored, and that nothing leaks.
 
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
@@ -38,7 +38,7 @@ async function lose(name) {
 }
 
 for (const name of Object.keys(losses)) {
-    test(`after a loss of the ${name} the scene comes back, and no object leaks`, async () => {
+    test(`after a loss of the ${name}, the scene is restored and no object leaks`, async () => {
         const { page } = playground;
         await playground.view(0x10000);
         const before = await playground.windowPixels();
@@ -47,7 +47,10 @@ for (const name of Object.keys(losses)) {
             await playground.run('ZoDrawRect');
             await lose(name);
             const facts = await page.locator('#loss-facts').innerText();
-            assert.match(facts, /10 of 10 buffers.*transparent black.*measuring a text gives 31/s);
+            assert.match(
+                facts,
+                /10 of 10 buffers.*transparent black.*measuring a text returns 31/s,
+            );
             assert.equal((await playground.pixel(100, 100))[0], '0 0 0 0');
             assert.deepEqual(await playground.windowPixels(), before);
             counts.push(await page.evaluate(() => /** @type {any} */ (window).countLiveObjects()));
@@ -59,7 +62,7 @@ for (const name of Object.keys(losses)) {
     });
 }
 
-test('losses while something else happens', async () => {
+test('losses during play, with another target shown, and in a row', async () => {
     const { page } = playground;
     // While the scene plays, while another target is shown, and a loss after a loss.
     await playground.press('Play');
@@ -81,7 +84,7 @@ test('losses while something else happens', async () => {
     await playground.press('Play', 'Pause');
     await playground.waitForBuffers('10 of 15');
     assert.match(await page.locator('#buffer-table').innerText(), /scene: frame/);
-    // The scene does not draw into a visitor's buffer that has got one of its handles.
+    // The scene does not draw into a visitor's buffer that reuses one of its handles.
     await playground.press('Destroy 0x10005');
     await page.getByText('The scene has stopped').waitFor();
     await playground.run('ZoCreateGLFBO', {}, /handle 0x10005/);
@@ -92,7 +95,7 @@ test('losses while something else happens', async () => {
     await playground.press('Destroy 0x10005');
 });
 
-test('an unbound surface returns codes', async () => {
+test('operations on an unbound surface return their documented codes', async () => {
     await playground.press('Destroy the window');
     await playground.picture('unbound');
     for (const [operation, code] of /** @type {const} */ ([

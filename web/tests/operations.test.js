@@ -1,4 +1,4 @@
-// Every operation by its form: the code, the report, and the pixels.
+// Every operation, run by its form: the code, the report, and the pixels.
 
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
@@ -69,7 +69,7 @@ test('rectangles, copies and presentations draw exactly their pixels', async () 
 test('text is drawn and measured', async () => {
     const { page } = playground;
     const [a, b, both] = [await measure('A'), await measure('B'), await measure('A B')];
-    assert.equal(both, a + 30 + b, 'a blank counts as 30');
+    assert.equal(both, a + 30 + b, 'a space counts as 30');
 
     const report = await playground.run('ZoDrawText', { text: 'A B' });
     assert.match(report, /OSDText: Char 32 is not exit/);
@@ -83,7 +83,7 @@ test('text is drawn and measured', async () => {
     await playground.run('ZoLoadFont', { size: 40 });
 });
 
-test('buffers and the window come and go', async () => {
+test('buffers and windows can be created and destroyed', async () => {
     await playground.run('ZoGetWindowWidth', {}, /^1280 pixels/);
     await playground.run('ZoGetWindowHeight', {}, /^720 pixels/);
     await playground.run('Init');
@@ -104,7 +104,7 @@ test('buffers and the window come and go', async () => {
     await playground.waitForBuffers('10 of 15');
 });
 
-test('wrong arguments give codes', async () => {
+test('wrong arguments return their documented codes', async () => {
     for (const fbo of [0x10010, 0xffffffff]) {
         await playground.run('ZoDrawRect', { fbo }, /^101 ZO_INVALID_PARAM/);
     }
@@ -116,7 +116,7 @@ test('wrong arguments give codes', async () => {
     await playground.run('ZoLoadFont', { path: '/fonts/DejaVuSans.ttf' });
 });
 
-test('extreme sizes give codes, too', async () => {
+test('extreme sizes return codes, too', async () => {
     for (const size of [0, 1, 100000, 4294967295]) {
         await playground.run('ZoCreateGLFBO', { width: size, height: size });
         const shown = await playground.page.locator('#buffer-table tr').last().innerText();
@@ -137,7 +137,7 @@ test('extreme sizes give codes, too', async () => {
     await playground.run('ZoDrawRect', { rect: { x: 0, y: 0, width: 9, height: 9 } });
 });
 
-test('the forms reject what a record cannot hold', async () => {
+test('the forms reject values that a record cannot hold', async () => {
     const isValid = () => playground.panel.locator('form').evaluate((f) => f.matches(':valid'));
     for (const [operation, fields, expected] of /** @type {const} */ ([
         ['ZoDrawText', { text: 'ab' }, true],
@@ -154,7 +154,7 @@ test('the forms reject what a record cannot hold', async () => {
     assert.equal(await playground.panel.getByRole('status').innerText(), '');
 });
 
-test('a damaged font leaves the font before; a large one names the characters that do not fit', async () => {
+test('a damaged font keeps the previous font; a large font lists the characters that do not fit', async () => {
     const whole = readFileSync(font);
     assert.match(await give('same.ttf', whole), /DejaVu Sans Book.*1023 × \d+ texels.*No char/s);
     const before = await measure('Volume');
@@ -164,7 +164,7 @@ test('a damaged font leaves the font before; a large one names the characters th
         whole.subarray(0, 4000),
     ]) {
         const report = await give('same.ttf', damaged);
-        assert.match(report, /same.ttf: 31 ZO_FONT_FACE_FAILED.*loaded that font again/s);
+        assert.match(report, /same.ttf: 31 ZO_FONT_FACE_FAILED.*the page has loaded it again/s);
         assert.equal(await measure('Volume'), before);
     }
     assert.match(await give('x.png', whole), /x.png cannot be read/);

@@ -15,7 +15,7 @@ const phone = { width: 390, height: 844 };
 
 const playground = openPlayground();
 
-test('the scene is the one that Mesa draws', async (t) => {
+test('the scene has the same pixels as with Mesa', async (t) => {
     const pixels = await playground.windowPixels(); // waits until the driver has drawn them
     const now = await playground.page.evaluate(() => performance.now());
     t.diagnostic(`first picture within ${Math.round(now)} ms of the visit`);
@@ -36,7 +36,7 @@ test('the scene is the one that Mesa draws', async (t) => {
     assert.ok(counts.length <= mostDifference + 1);
 });
 
-test('the scene plays, and pauses for what is drawn on the window', async () => {
+test('the scene plays, and pauses when an operation draws on the window', async () => {
     const { page } = playground;
     const isMoving = async () => {
         const before = await playground.windowPixels();
@@ -52,7 +52,7 @@ test('the scene plays, and pauses for what is drawn on the window', async () => 
     await playground.run('ZoDisplayBitmap');
     await page.getByText('The scene is paused').waitFor();
     assert.equal(await isMoving(), false);
-    // What stands behind the window shows through.
+    // The background behind the window is visible through it.
     await page.locator('#behind').selectOption('checks');
     const { data } = PNG.sync.read(await page.locator('#viewport').screenshot());
     assert.ok(data.includes(Buffer.from([0x8c, 0x8f, 0x9f, 0xff])));
@@ -79,7 +79,7 @@ for (const [size, viewport] of Object.entries({ wide, phone })) {
     }
 }
 
-test('on a phone picture and result are in sight of Run, and controls fit a finger', async () => {
+test('on a phone, picture and result are visible after Run, and controls are large enough for a finger', async () => {
     const { page } = playground;
     await page.setViewportSize(phone);
     for (const operation of ['ZoBlit', 'ZoDrawText', 'ZoGetWindowWidth']) {
@@ -162,7 +162,7 @@ test('the log shows the lines that pass its filter', async () => {
     assert.match(await log.innerText(), /Char 32 is not exit\s*×3/);
 });
 
-test('every link leads somewhere', async () => {
+test('every link has a target', async () => {
     const { page } = playground;
     const links = await page
         .locator('[href]')

@@ -1,4 +1,4 @@
-// What build/describe.mjs makes of the library's header and guide.
+// The script that build/describe.mjs makes from the library's header and guide.
 export const results: Record<number, { name: string; meaning: string; advice: string }>;
 export const operationNotes: Record<string, string>;
 export const version: string;

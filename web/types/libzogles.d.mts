@@ -1,10 +1,10 @@
-// The compiled library, as the page's scripts see it: see bindings/.
+// The compiled library's interface for the page's scripts; bindings/ defines it.
 
 export type Rect = Record<'x' | 'y' | 'width' | 'height', number>;
 
 type Color = Record<'r' | 'g' | 'b' | 'a', number>;
 
-/** The operations that the page calls itself. The forms call all of them by name. */
+/** The operations that the page calls directly. The forms call all operations by name. */
 export interface Surface {
     ZoCreateGLWindowSurface(hasWindow: boolean): number;
     ZoDestoryGLWindowSurface(): void;
