@@ -6,6 +6,7 @@ namespace {
 
 constexpr char noLibrary[] = "Failed to initialize freetype library";
 constexpr char noFace[] = "Error loading font face";
+constexpr char noMemory[] = "out of memory\n";
 constexpr char noTexture[] = "Create texture fail\n";
 constexpr char emptyAtlas[] = "Calculate texture width 0d, height 0d\n";
 const harness::LogLine generated =
@@ -38,6 +39,7 @@ const struct {
      "Calculate texture width 7d, height 0d\n"},
     {"no_character", Show({}), ZO_FONT_ATLAS_EMPTY, emptyAtlas},
     {"no_texture", Fail("glGenTextures"), ZO_FAILURE, noTexture},
+    {"no_memory_for_glyphs", RefuseAllocation(1), ZO_FAILURE, noMemory},
 };
 
 // Drawing goes on with the atlases that exist and never passes FreeType a null face.
@@ -150,6 +152,7 @@ Rows RequestRows() {
             draw, ZO_SUCCESS, {}, "+styled:1 -styled:2 "),
     };
     const std::tuple<const char*, Step, int, const char*> faults[] = {
+        {"styled_no_memory_for_glyphs", And(styled, RefuseAllocation(1)), ZO_FAILURE, noMemory},
         {"styled_no_texture", And(styled, Fail("glGenTextures")), ZO_FAILURE, noTexture},
         {"styled_no_rows", And(styled, Show({{65, 5, 0}, {66, 5, 0}})), ZO_FONT_ATLAS_EMPTY,
          "Calculate texture width 12d, height 0d\n"},
