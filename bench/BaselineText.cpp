@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Text by hand, with six vertices per glyph, and the FreeType calls of fonts and styled text.
 
 #include "Baseline.h"

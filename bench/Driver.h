@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The differences between the programs: the window, and whether GL has a driver.
 #ifndef ZOGLES_BENCH_DRIVER_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Limits fonts to their first characters, so that one font file gives atlases of every size.
 
 #include "Driver.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The whole frame, described once for the library, the baseline and the peers: 60 filled rectangles,
 /// 8 copies of 200x100 out of another buffer and 40 lines of 30 glyphs go into one composed buffer;

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The benchmarks, with or without a driver.
 //   zogles_bench [options of Google Benchmark]
 //   zogles_bench --check                    checks that baseline and library draw the same pixels

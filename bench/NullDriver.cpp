@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Empty EGL and GL functions, so that only the caller's code is measured. They are defined in the
 // program, so they override those of the libraries.
 

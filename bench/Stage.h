@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The surface that library and baseline draw on, and the inputs that they share.
 #ifndef ZOGLES_BENCH_STAGE_H

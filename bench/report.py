@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 """Prints the tables of scripts/bench and scripts/bench-peers as Markdown.
 
     report.py bench OUT COUNTS COMMITTED    times and counts; fails if a committed count grew by over 5 %

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # The library's dependencies in a browser, under their usual target names: EGL and OpenGL ES by
 # Emscripten, on WebGL, and FreeType, built from its source. Programs that link the library get their link
 # options.

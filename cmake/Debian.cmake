@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # Two Debian packages: libzogles1 to run programs, libzogles-dev to build them. scripts/package makes
 # them.
 set(runtime "libzogles${PROJECT_VERSION_MAJOR}")

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # The installation has three components: runtime, development and docs. Clients find the library with
 # find_package(zogles 1) or pkg-config, even if the installed tree was moved.
 include(CMakePackageConfigHelpers)

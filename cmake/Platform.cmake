@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # Sets ZOGLES_OWN_FUNCTIONS to the functions that the library defines because the platform lacks them,
 # ZOGLES_OWN_MEMSET_S to whether memset_s is one of them, and ZOGLES_PLATFORM_LIBRARIES to the libraries
 # that provide the others.

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # The shared library. The version script keeps instances of standard templates from being exported.
 add_library(zogles SHARED $<TARGET_OBJECTS:zogles_objects>)
 add_library(zogles_internal ALIAS zogles)

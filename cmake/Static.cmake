@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # The static library. A program may use the names of its internal classes for other classes. So the
 # library is one object in which all symbols but those of the public class are local, if the linker and
 # objcopy can make one.

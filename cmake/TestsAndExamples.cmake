@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # Sets build_tests and build_examples. AUTO builds them if their packages are installed; ON requires the
 # packages.
 function(zogles_require name found)

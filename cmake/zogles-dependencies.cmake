@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # EGL and OpenGL ES as the targets zogles::EGL and zogles::GLES: from pkg-config if it knows them,
 # otherwise by header and library. The library's build and clients of an installed static library share
 # this file. zogles_missing lists what was not found.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // A speed in large digits, status icons and a blinking label, with few operations per frame.
 //
 //   dashboard                  until a key is pressed

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Rectangles and a line of text.
 //
 //   hello                  shows the window until a key is pressed

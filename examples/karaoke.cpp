@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Two lines of a song over a picture: a second colour sweeps over each word while it is sung.
 //
 //   karaoke                  until a key is pressed

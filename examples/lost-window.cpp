@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // A window is closed, another one opens, and the buffers are painted again.
 //
 // Buffers keep their handles but lose their contents. Fonts must be loaded again.

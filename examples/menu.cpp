@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // A list that scrolls with the keys Up and Down, on an SDL window.
 //
 //   menu                  Enter prints the row, Esc exits

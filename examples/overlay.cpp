@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // A transparent volume bar above all windows, which does not take clicks.
 //
 //   overlay                  for five seconds, on a desktop with a compositor

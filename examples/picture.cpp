@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // A PNG file, as large as the window allows without changing its shape.
 //
 //   picture [FILE.png]                    shows it, or a poster, until a key is pressed

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Subtitles on a transparent window: outlined, centred, faded in and out.
 //
 //   subtitles                           until a key is pressed

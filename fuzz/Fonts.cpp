@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Loads a font file of any bytes, measures and draws with it. The choices are taken from the file's
 // end, which hardly any format reads, so every font file is a valid input.
 //

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Calls public operations in any order, with any arguments, and refuses what they need. Checks the
 // codes, and that failures leave output arguments unchanged; not the pixels.
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Windows and checks for the fuzz targets. A failed check ends the program.
 #ifndef ZOGLES_FUZZ_SUPPORT_H

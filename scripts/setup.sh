@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # shellcheck shell=bash
 # The other scripts source this file first. It stops the script at the first error and
 # changes to the project's folder; the caller's folder is in OLDPWD. With --help, it prints the

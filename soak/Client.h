@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// A client that uses every operation at random, loses its window, and checks every result.
 #ifndef ZOGLES_SOAK_CLIENT_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Uses the library for a long time and writes down what the process holds.
 //   zogles_soak MINUTES FOLDER
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// What the process holds at one moment.
 #ifndef ZOGLES_SOAK_SAMPLE_H

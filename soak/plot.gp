@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # Run in the folder with the samples of scripts/soak.
 set terminal pngcairo size 1400,1000 background rgb 'white' font 'DejaVu Sans,14'
 set output 'soak.png'

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 """Judges the samples of the soak: fails if something grows.
 
     report.py SAMPLES

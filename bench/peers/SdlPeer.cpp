@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The frame, drawn with SDL2's renderer and SDL2_ttf, in three variants, selected by name:
 // sdl-cached keeps each line as a texture, for lines that never change; sdl-atlas keeps the glyphs
 // in one texture and draws them with SDL_RenderGeometry; sdl-anew renders each line in each frame.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Code that the contestants share: timing and pictures.
 #ifndef ZOGLES_BENCH_PEERS_SUPPORT_H

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 the authors of libzogles
+# SPDX-License-Identifier: Apache-2.0
 # Builds for another architecture of Debian, ZOGLES_ARCHITECTURE: arm64, armhf or i386. The libraries
 # come from build/sysroot-<architecture>, which scripts/cross makes, so that the system needs no
 # package of that architecture.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Code that the examples share: the check of result codes, the options, and a text record.
 #ifndef EXAMPLES_COMMON_EXAMPLE_H
 #define EXAMPLES_COMMON_EXAMPLE_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // PNG files, and pictures of what the bound window shows.
 #ifndef EXAMPLES_COMMON_PICTURE_H
 #define EXAMPLES_COMMON_PICTURE_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // An X11 window for the examples.
 #ifndef EXAMPLES_COMMON_X_WINDOW_H
 #define EXAMPLES_COMMON_X_WINDOW_H

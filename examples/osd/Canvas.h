@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // A thin wrapper of the library, which checks every result code and reports failures.
 #ifndef OSD_CANVAS_H
 #define OSD_CANVAS_H

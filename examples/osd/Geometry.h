@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Rectangles and colours of the demo.
 #ifndef OSD_GEOMETRY_H
 #define OSD_GEOMETRY_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The layout of the scene, for a window of any size.
 #ifndef OSD_LAYOUT_H
 #define OSD_LAYOUT_H

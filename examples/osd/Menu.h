@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The list of channels, with one highlighted row. It scrolls by copies within its buffer.
 #ifndef OSD_MENU_H
 #define OSD_MENU_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The command line's options.
 #ifndef OSD_OPTIONS_H
 #define OSD_OPTIONS_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The colours of the whole display.
 #ifndef OSD_PALETTE_H
 #define OSD_PALETTE_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The scene: a television's display over a picture. Static parts are painted once into a backdrop. Each frame copies the backdrop into a buffer, draws the moving parts, and presents the buffer.
 #ifndef OSD_SCENE_H
 #define OSD_SCENE_H

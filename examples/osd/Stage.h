@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // A buffer several times as large as the result. Rectangles have hard edges; shapes that are painted
 // here from rows of rectangles get soft edges when the stage is copied down to the result's size.
 #ifndef OSD_STAGE_H

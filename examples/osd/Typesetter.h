@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Lays out lines of text: words, spaces, alignment and sizes.
 #ifndef OSD_TYPESETTER_H
 #define OSD_TYPESETTER_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // A television's on-screen display, drawn with libzogles in a window.
 //
 // Shows a splash, the scene, the scene scrolled, and the scene after the window was lost. Writes a

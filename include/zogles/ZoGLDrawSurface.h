@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The public header of libzogles: records, result codes and `ZoGLDrawSurface`, which draws an
 /// on-screen display with OpenGL ES 2.0 on a native window.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The EGL side of a surface: display, OpenGL ES 2.0 context and window surface.
 #ifndef ZOGLES_GL_EGLMANAGER_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The pool of render targets: the window's framebuffer and up to 15 off-screen buffers.
 #ifndef ZOGLES_GL_FBOMANAGER_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Binds, clears and unbinds render targets.
 #ifndef ZOGLES_GL_RENDERTARGET_H

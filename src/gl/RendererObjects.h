@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The GL objects of a renderer: a program, built by its helper, and a vertex buffer.
 #ifndef ZOGLES_GL_RENDEREROBJECTS_H

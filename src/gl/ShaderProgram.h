@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Compiles and links GLSL ES programs.
 #ifndef ZOGLES_GL_SHADERPROGRAM_H

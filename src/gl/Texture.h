@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The library's textures: no mipmaps, linear filter, edge pixels repeated.
 #ifndef ZOGLES_GL_TEXTURE_H

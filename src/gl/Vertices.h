@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Vertices, and their upload into a renderer's buffer, which is refilled for every draw.
 #ifndef ZOGLES_GL_VERTICES_H

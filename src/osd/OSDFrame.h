@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Presentation of buffers on the window.
 #ifndef ZOGLES_OSD_OSDFRAME_H

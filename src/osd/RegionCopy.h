@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The temporary copy that a blit within one buffer reads from.
 #ifndef ZOGLES_OSD_REGIONCOPY_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The textured quad that blit, presentation and bitmap share.
 #ifndef ZOGLES_OSD_TEXTUREDQUAD_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The log, with the platform's interface. Platforms that have this log use their own.
 #ifndef ZOGLES_PLATFORM_LOG_H

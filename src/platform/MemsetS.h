@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// A bounds-checked `memset`, for platforms without one.
 #ifndef ZOGLES_PLATFORM_MEMSETS_H

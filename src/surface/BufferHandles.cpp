@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The off-screen buffers' handles, and the table from which buffers are restored after the GL
 // context was lost.
 

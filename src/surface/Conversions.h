@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Converts the client's pixels and bytes to GL's units. The float expressions are evaluated in
 /// single precision as written, so that every machine places an edge on the same pixel.

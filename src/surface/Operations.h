@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Helpers that the surface's operations share: results, records, targets and components.
 #ifndef ZOGLES_SURFACE_OPERATIONS_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The records that the renderers work on, in GL's units.
 #ifndef ZOGLES_SURFACE_RECORDS_H

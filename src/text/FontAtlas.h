@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The standard atlas: a whole font at one size.
 #ifndef ZOGLES_TEXT_FONTATLAS_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Opens font files with FreeType and loads their glyphs.
 #ifndef ZOGLES_TEXT_FONTFACE_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The styled atlas: the characters of one text, at its size and style.
 #ifndef ZOGLES_TEXT_FONTSTYLEATLAS_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The glyphs of an atlas, and the map from character codes to them.
 #ifndef ZOGLES_TEXT_GLYPH_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The pixels of a glyph.
 #ifndef ZOGLES_TEXT_GLYPHBITMAP_H

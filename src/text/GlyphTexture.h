@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Code that both atlases share: creates the texture and fills it with glyphs.
 #ifndef ZOGLES_TEXT_GLYPHTEXTURE_H

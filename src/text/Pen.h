@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Places glyphs: converts their pixels to the quads that GL draws.
 #ifndef ZOGLES_TEXT_PEN_H

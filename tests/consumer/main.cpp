@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // A program that uses the library: draws into a buffer, presents it, and reads the window's picture
 // from the X server. Returns 0 only if that is right.
 #include <zogles/ZoGLDrawSurface.h>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Classes of a user's program that have the names and signatures of the library's internal classes.
 // The library must not call them: every function here ends the program.
 #include "names.h"

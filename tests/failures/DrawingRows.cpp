@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The operations that draw or measure, when they lack something.
 
 #include "FailureRows.h"
@@ -141,6 +143,13 @@ Rows EmptyTargetRows() {
     return rows;
 }
 
+Rows CopyRows() {
+    const Step useOneBuffer = [](C& c) { c.blit.srcHandle = c.blit.dstHandle = 0x10001; };
+    return {Row("blit_within_buffer_without_texture", &C::WithAll,
+                And(useOneBuffer, Fail("glGenTextures")), &C::Blit, ZO_FAILURE,
+                {SurfaceLine("Create texture fail\n")})};
+}
+
 Rows UnknownFormatRows() {
     const Step expectPicture = [](const C& c) {
         const int height = static_cast<int>(c.surface->ZoGetWindowHeight());
@@ -154,7 +163,8 @@ Rows UnknownFormatRows() {
 } // namespace
 
 Rows DrawingRows() {
-    Rows rows = NullRows() + HandleRows() + InitRows() + EmptyTargetRows() + UnknownFormatRows();
+    Rows rows = NullRows() + HandleRows() + InitRows() + EmptyTargetRows() + CopyRows() +
+                UnknownFormatRows();
     for (const Drawing& drawing : drawings) {
         rows = rows + RefusalRows(drawing);
     }

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The conditions under which operations fail, as rows of a table.
 #ifndef ZOGLES_TESTS_FAILURES_FAILUREROWS_H

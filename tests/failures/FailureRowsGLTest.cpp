@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Under each condition the operation fails as the row says, and without the condition it works.
 
 #include "FailureRows.h"

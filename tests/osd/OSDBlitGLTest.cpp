@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 #include "OSDFixture.h"
 
 #include <algorithm>
@@ -72,18 +74,4 @@ TEST_F(OSDBlitGLTest, BlitsWithinABufferOfSizeZero) {
         ExpectStateAfterDraw(GL_TEXTURE0);
         ExpectGlError(GL_INVALID_FRAMEBUFFER_OPERATION);
     }
-}
-
-TEST_F(OSDBlitGLTest, FailsWithoutATextureForTheCopy) {
-    Bind();
-    const unsigned int buffer = CreateBuffer(picture);
-    ASSERT_EQ(surface->Init(ZO_COMPONENT_BLIT), ZO_SUCCESS);
-    harness::FailCall("glGenTextures");
-    const tagZoBlitInfo info = {buffer, buffer, {0, 0, 20, 20}, {10, 10, 20, 20}};
-    EXPECT_EQ(surface->ZoBlit(&info), ZO_FAILURE);
-    EXPECT_EQ(harness::TakeLog(), (Log{{6, "ZoGLDrawSurface", "Create texture fail\n"}}));
-    EXPECT_TRUE(Matches(Read(buffer), Of(picture)));
-    ExpectStateAfterDraw(GL_TEXTURE0);
-    Blit(buffer, buffer, {0, 0, 20, 20}, {10, 10, 20, 20});
-    EXPECT_EQ(Read(buffer).At(10, 10), picture.At(0, 0));
 }

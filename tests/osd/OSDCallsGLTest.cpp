@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The calls that the drawing operations make, the vertices they upload and the state they leave.
 
 #include "OSDFixture.h"

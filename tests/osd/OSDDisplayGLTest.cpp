@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The operations that replace the whole window: presentation of buffers and of client bitmaps.
 
 #include "OSDFixture.h"

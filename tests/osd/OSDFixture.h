@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Drawing operations, and formulas for the pixels that they leave.
 #ifndef ZOGLES_TESTS_OSD_OSDFIXTURE_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Draws right after a client has drawn with its own GL: docs/own-gl.md lists the state that a client
 // must put back, and says that it may leave any other as it likes.
 

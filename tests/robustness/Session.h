@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// What a client does from binding a window to losing it, step by step, in two fixed sessions.
 #ifndef ZOGLES_TESTS_ROBUSTNESS_SESSION_H

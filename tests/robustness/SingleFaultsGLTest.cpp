@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Makes each call that can fail fail once, in sessions that use every operation.
 
 #include "Session.h"

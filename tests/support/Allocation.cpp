@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Counts and refuses the library's heap allocations, all of which go through operator new.
 
 #include "support/Harness.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Lists of calls, as harness::Record returns them, and sequences that operations share.
 #ifndef ZOGLES_TESTS_SUPPORT_CALLS_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// The codes that the public header documents for each kind of operation, apart from
 /// ZO_INVALID_PARAM for a null pointer.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Fonts of few characters, and made-up glyphs.
 #ifndef ZOGLES_TESTS_SUPPORT_FAKEFONT_H

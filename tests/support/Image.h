@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Pixels read back, and their comparison with a formula.
 #ifndef ZOGLES_TESTS_SUPPORT_IMAGE_H

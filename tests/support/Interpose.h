@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// How an interposed function is written.
 #ifndef ZOGLES_TESTS_SUPPORT_INTERPOSE_H

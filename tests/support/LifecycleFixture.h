@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// A surface whose default font exists and is small.
 #ifndef ZOGLES_TESTS_SUPPORT_LIFECYCLEFIXTURE_H

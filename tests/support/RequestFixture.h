@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// Every operation with arguments that a test can change.
 #ifndef ZOGLES_TESTS_SUPPORT_REQUESTFIXTURE_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// A surface on an X11 window and a driver.
 #ifndef ZOGLES_TESTS_SUPPORT_SURFACEFIXTURE_H

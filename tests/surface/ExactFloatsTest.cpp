@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The same pixels on every machine need the same floats, to the last bit. The inputs are integers and
 // fractions of a power of two, so that the test itself rounds nothing.
 

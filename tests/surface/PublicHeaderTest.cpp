@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Compiling is the test: the header needs no other one before it, and includes no header of EGL, GL,
 // FreeType or X11.
 #include <zogles/ZoGLDrawSurface.h>

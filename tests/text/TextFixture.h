@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 /// @file
 /// A bound surface and a buffer to draw texts into.
 #ifndef ZOGLES_TESTS_TEXT_TEXTFIXTURE_H

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Describes a loaded font: its name, its atlas, and the characters that did not fit.
 
 #include "text/FontAtlas.h"

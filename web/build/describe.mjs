@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Prints a script with the page's texts about result codes and operations, taken from the library's header
 // and guide:
 //   node describe.mjs ZoGLDrawSurface.h when-something-fails.md >library.js

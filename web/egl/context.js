@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Fixes Emscripten's EGL and GL: calls without a current context, destroyed contexts, and images without
 // pixels.
 //

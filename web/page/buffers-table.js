@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The table of buffers: the handle, the size and a live miniature of each.
 
 import { Emitter, find, make, makeRow } from './dom.js';

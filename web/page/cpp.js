@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // C++ code that does the same as a form.
 
 import { formatHandle, noHandle, windowHandle } from './targets.js';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Runs the library: its module, one surface on one canvas, and the loss of both. Depends on no other part
 // of the page.
 

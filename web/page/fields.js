@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The fields of a form: each has an element and functions that read and write its value. The browser's
 // validation rejects values that a record cannot hold, such as negative numbers.
 

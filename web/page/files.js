@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Fonts and pictures that a visitor drops on the page. They stay in the page.
 
 import { Emitter, find, make } from './dom.js';

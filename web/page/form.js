@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The form of one operation: its fields, its result, and the same call in C++.
 
 import { writeCpp } from './cpp.js';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Loses the window or the WebGL context, and shows what is restored afterwards.
 
 import { Emitter, find, make } from './dom.js';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The channels of the pixel under the pointer, in the buffer and on the window.
 
 import { find, make, makeRow, throttle } from './dom.js';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The page: starts the library and the scene, and connects the page's parts.
 
 import { BuffersTable } from './buffers-table.js';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The list of operations and the form of the chosen one.
 
 import { Emitter, find, make } from './dom.js';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Every operation of the library: its call in C++, and the fields of its arguments.
 
 import { formatHandle, windowHandle } from './targets.js';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The picture: one target (the window or a buffer) and, on it, the rectangles of the chosen form.
 
 import { Emitter, find, make, throttle } from './dom.js';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The library's targets in WebGL: their framebuffers, sizes and pixels.
 
 /** @typedef {import('./libzogles.mjs').Rect} Rect */

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Connects forms and picture: the picture shows the form's rectangles and the operation's effect.
 
 import { notice } from './dom.js';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The browser for the tests. Each test fails if an error reaches the console, if a request fails, or if a
 // request goes to another server.
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Losses of the window and of the WebGL context: what is restored, and that nothing leaks.
 
 import assert from 'node:assert/strict';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // Every operation, run by its form: the code, the report, and the pixels.
 
 import assert from 'node:assert/strict';

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The page on wide and narrow screens, light and dark, by keyboard, and without WebGL; the scene and the
 // log.
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the authors of libzogles
+// SPDX-License-Identifier: Apache-2.0
 // The compiled library's interface for the page's scripts; bindings/ defines it.
 
 export type Rect = Record<'x' | 'y' | 'width' | 'height', number>;
