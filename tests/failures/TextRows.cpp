@@ -158,7 +158,7 @@ Rows RequestRows() {
         {"styled_no_texture", And(styled, Fail("glGenTextures")), ZO_FAILURE, noTexture},
         {"styled_no_rows", And(styled, Show({{65, 5, 0}, {66, 5, 0}})), ZO_FONT_ATLAS_EMPTY,
          "Calculate texture width 12d, height 0d\n"},
-        {"bold_character_not_loaded", And(boldOutline, Fail("FT_Load_Char")), ZO_FONT_ATLAS_EMPTY,
+        {"bold_not_loaded", And(boldOutline, Fail("FT_Load_Char")), ZO_FONT_ATLAS_EMPTY,
          emptyAtlas},
         {"styled_zero_unit_first", SetText(u"\0AB", 3), ZO_FONT_ATLAS_EMPTY, emptyAtlas},
         {"styled_no_unit", SetText(u"AB", 0), ZO_FONT_ATLAS_EMPTY, emptyAtlas},

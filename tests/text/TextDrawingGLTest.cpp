@@ -35,6 +35,13 @@ protected:
 
     static Calls NextChar(char16_t unit) { return {Call("FT_Get_Next_Char", data, unit, data)}; }
 
+    Calls RenderText(size_t units) const {
+        const OSDText& text = *surface->osdText;
+        return FeedVertices(text.coordLocation, text.vertexBuffer, 96 * units) +
+               Calls{Call("glDrawArrays", GL_TRIANGLES, 0, 6 * units)} +
+               UnbindVertices(text.coordLocation);
+    }
+
     /// A drawing operation, with the calls of the styled atlas in between.
     Calls DrawText(GLenum unit, GLuint texture, size_t units, const Calls& styled = {}) const {
         const OSDText& text = *surface->osdText;
@@ -43,10 +50,7 @@ protected:
                styled + BindTarget(surface->fboManager->slots[1].framebuffer, width, height) +
                Calls{Call("glUseProgram", text.program)} + EnableBlending() +
                Calls{Call("glUniform4fv", text.colorLocation, 1, 1, 1, 1, 1)} +
-               Sample(unit, BindTexture(texture), text.texLocation) +
-               FeedVertices(text.coordLocation, text.vertexBuffer, 96 * units) +
-               Calls{Call("glDrawArrays", GL_TRIANGLES, 0, 6 * units)} +
-               UnbindVertices(text.coordLocation) +
+               Sample(unit, BindTexture(texture), text.texLocation) + RenderText(units) +
                Calls{Call("glDisable", GL_BLEND), BindTexture(0), BindFramebuffer(0)};
     }
 };
@@ -95,6 +99,8 @@ TEST_F(TextDrawingGLTest, MakesExactlyTheseCalls) {
                      LoadChar('B') + Upload(0, 5, 7) + LoadChar('A') + Upload(6, 4, 3) +
                      Calls{BindTexture(0)}));
     ExpectStateAfterDraw(GL_TEXTURE2);
+    EXPECT_EQ(harness::Record([&] { surface->osdText->RenderText(u"AB", 2, 0, 0); }),
+              RenderText(2));
     EXPECT_EQ(harness::TakeLog().size(), 1u) << "the standard atlas's size";
 }
 
