@@ -92,7 +92,8 @@ constexpr unsigned int ZO_NO_HANDLE = 0xFFFFFFFFU;
 constexpr int ZO_FORMAT_RGBA8888 = 9;
 
 /// A rectangle in pixels, from the target's top-left corner. It may extend past the target's right
-/// and bottom edges; the part outside is clipped.
+/// and bottom edges: the part outside is clipped, or repeats the edge pixels if the rectangle is
+/// the source of a copy.
 struct tagZoRectInfo {
     unsigned int x;      ///< left edge, in pixels from the target's left edge
     unsigned int y;      ///< top edge, in pixels from the target's top edge
@@ -114,8 +115,8 @@ struct tagZoColorRGBA {
 ///
 /// Standard text (`fontSize` 40, neither bold nor italic) comes from glyphs that `ZoLoadFont` has
 /// rendered, at the size that was passed to `ZoLoadFont`. All other text is styled text: its glyphs
-/// are rendered again at every draw, and it ends at its first zero unit. `fontSize` 0 gives styled
-/// text of 40 pixels.
+/// are rendered again at every draw, up to the first zero unit; units after it are drawn only if
+/// they also occur before it. `fontSize` 0 gives styled text of 40 pixels.
 struct tagZoTextInfo {
     const char16_t* text; ///< UTF-16 code units, owned by the client; may be null if `length` is 0
     unsigned int length;  ///< number of units to draw or measure; no unit after them is read
@@ -170,9 +171,10 @@ struct TagFboInfo {
 /// display for the whole process. Keep at most one surface bound at a time.
 ///
 /// Errors: no operation throws, and an operation that fails draws nothing. If memory is exhausted,
-/// the operation logs it and returns ZO_FAILURE, or ZO_PROGRAM_FAILED while it builds a program.
-/// Exhausted driver memory is not detected: a bitmap or buffer without memory shows as opaque
-/// black, a glyph as a solid rectangle.
+/// the operation returns ZO_FAILURE, ZO_PROGRAM_FAILED while it builds a program, or a font code
+/// while it opens a font; a glyph without memory is left out. Binding succeeds even if there is no
+/// memory to restore the buffers; the log says so. Exhausted driver memory is not detected: a
+/// bitmap or buffer without memory shows as opaque black, a glyph as a solid rectangle.
 ///
 /// One frame, without checks of the result codes:
 /// @code
@@ -201,18 +203,18 @@ public:
     /// the window's size.
     ///
     /// If the surface is bound already, it moves to the new window and keeps every buffer, font and
-    /// component. Drawing with ZO_WINDOW_HANDLE then keeps the old window's scale; unbind first
-    /// if the sizes differ. If the surface was unbound, its buffers are restored, unless a
-    /// drawing operation was called on the unbound surface in the meantime.
+    /// component. Drawing with ZO_WINDOW_HANDLE then keeps the old window's scale; unbind first if
+    /// the sizes differ. If the surface was unbound, its buffers are restored, unless a drawing
+    /// operation or `Init` was called on the unbound surface in the meantime.
     /// @param window owned by the client; must stay alive until it is unbound
     /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null window, which changes nothing; a code from
-    ///     ZO_NO_DISPLAY to ZO_NO_WINDOW_SURFACE, which leaves the surface unbound; or ZO_FAILURE
-    ///     if the context cannot be made current: call `ZoDestoryGLWindowSurface` in this case
+    ///     ZO_NO_DISPLAY to ZO_NO_WINDOW_SURFACE, which leaves the surface unbound; or ZO_FAILURE,
+    ///     usually because the context cannot be made current: call `ZoDestoryGLWindowSurface` then
     int ZoCreateGLWindowSurface(ANativeWindow* window);
 
     /// Unbinds the surface: releases EGL and destroys every component, font and buffer. Keeps the
     /// buffers' handles and sizes for the next binding. On an unbound surface, it only destroys
-    /// what failed drawing operations have created in the meantime.
+    /// what other operations have created in the meantime.
     void ZoDestoryGLWindowSurface();
 
     /// Creates the components whose `ZoComponent` bits are set and which do not exist yet. Ignores
@@ -307,22 +309,25 @@ public:
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, ZO_PROGRAM_FAILED or ZO_FAILURE
     int ZoDisplayBitmap(const tagZoBitmapInfo* info);
 
-    /// Loads a font for all text and renders its glyphs for standard text. If no font is loaded,
-    /// the first text operation loads the platform's default font at 40 pixels. The font is lost
-    /// with the window.
+    /// Loads a font for all text and renders its glyphs for standard text. If no font was loaded
+    /// since the binding, the first text operation loads the platform's default font at 40 pixels.
+    /// The font is lost with the window.
     /// @param path a file in any format that FreeType opens. The file stays open and mapped until
     ///     another font is loaded or the window is lost: replace it by renaming, never in place
     /// @param size glyph height in pixels for standard text and for measuring; 0 means 40
     /// @pre the surface is bound
     /// @return ZO_SUCCESS; ZO_INVALID_PARAM for a null path, which changes nothing; or a font code
-    ///     (30 to 32) or ZO_FAILURE, which unload the previous font. Until a font is loaded, text
-    ///     draws nothing: standard text returns ZO_SUCCESS and measures 30 pixels per unit, styled
-    ///     text returns ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY
+    ///     (30 to 32) or ZO_FAILURE, which unload the previous font. The default font does not
+    ///     replace it: until a font is loaded, standard text draws nothing with ZO_SUCCESS and
+    ///     measures 30 pixels per unit, and styled text returns ZO_SUCCESS or ZO_FONT_ATLAS_EMPTY.
+    ///     If only the second of the two attempts to open the file fails, standard text has the new
+    ///     font
     int ZoLoadFont(const char* path, unsigned int size);
 
     /// Measures a text in pixels at the size passed to `ZoLoadFont`, regardless of the text's own
     /// size and style: the sum of its units' advances, and 30 for each unit without a visible glyph
-    /// (a space, a line feed). The height is always 50.
+    /// (a space, a line feed). A glyph that starts left of the pen and is wider than its advance
+    /// counts with its bitmap's width. The height is always 50.
     /// @param info the text; only `text` and `length` are used
     /// @param width receives the width; unchanged on failure
     /// @param height receives the height; unchanged on failure
@@ -345,7 +350,7 @@ public:
     /// @param handle handle of a buffer, or ZO_WINDOW_HANDLE
     /// @param info the text, its colour, size and style
     /// @param rect x is where the first glyph starts and y is the baseline, in pixels of the
-    ///     target; width and height are ignored, and nothing is clipped
+    ///     target; width and height are ignored; only the target's edges clip the text
     /// @pre the surface is bound
     /// @return ZO_SUCCESS, ZO_INVALID_PARAM for a null pointer, an unknown handle or a target of
     ///     size 0, a font code (30 to 32), ZO_PROGRAM_FAILED or ZO_FAILURE

@@ -9,8 +9,8 @@
 
 #include <EGL/egl.h>
 
-/// Initialises EGL on a window, presents frames and releases EGL. Every failure is logged with
-/// EGL's error value. The client owns the window.
+/// Initialises EGL on a window, presents frames and releases EGL. A failing step of set-up or
+/// binding is logged with EGL's error value. The client owns the window.
 class ZOGLES_API EGLManager {
 public:
     EGLManager();

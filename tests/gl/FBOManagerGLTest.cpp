@@ -37,6 +37,9 @@ TEST_F(FBOManagerGLTest, CreatesABufferInOrderAndClear) {
         harness::Record([&] { Pool().GLCreateFBO(&handle, 30, 20, GL_RGBA, false); });
     const tagFrameBuffObject record = Target(handle);
     EXPECT_EQ(Fields(record), Fields({0x10002, record.texture, record.framebuffer, 30, 20}));
+    tagFrameBuffObject copy = {};
+    Pool().NativeFBOOut(&record, &copy);
+    EXPECT_EQ(Fields(copy), Fields(record));
     EXPECT_EQ(calls, (Calls{Call("glActiveTexture", GL_TEXTURE0), Call("glGenTextures", 1, data),
                             BindTexture(record.texture),
                             Call("glTexImage2D", GL_TEXTURE_2D, 0, GL_RGBA, 30, 20, 0, GL_RGBA,
